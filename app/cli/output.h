@@ -1,0 +1,16 @@
+#pragma once
+
+// One printed record: its fields joined by TAB in text mode, an object in JSON mode.
+
+#include <iosfwd>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velmora::cli {
+
+using Fields = std::vector<std::pair<std::string, std::string>>;
+
+void printRecord(std::ostream& out, bool json, const Fields& fields);
+
+} // namespace velmora::cli

@@ -1,0 +1,29 @@
+#include "app/cli/cli.h"
+#include "app/cli/output.h"
+#include "data/reference_loader.h"
+
+#include <CLI/CLI.hpp>
+#include <ostream>
+
+namespace velmora::cli {
+
+void addStonesCommand(CLI::App& app, Context& context) {
+    auto* command = app.add_subcommand("stones", "Print the reference set in load order: "
+                                                 "StoneID<TAB>StoneName a line");
+    command->callback([&context] {
+        StoneList arr_stones;
+        StoneList arr_stonesGlobal;
+        if (!loadReferenceSet(context.referencePath(), *context.out, arr_stones,
+                              arr_stonesGlobal)) {
+            context.exitCode = exitAlert;
+            return;
+        }
+        for (const auto& stone : arr_stonesGlobal) {
+            printRecord(*context.out, context.json,
+                        {{"StoneID", stone.StoneID}, {"StoneName", stone.StoneName}});
+        }
+        context.out->flush();
+    });
+}
+
+} // namespace velmora::cli

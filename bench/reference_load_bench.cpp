@@ -1,0 +1,69 @@
+// Loading a large reference file: 100,000 generated rows, about 30 MB, read from disk, decoded,
+// cut into lines and cells, filtered and sorted.
+
+#include "data/reference_loader.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+namespace {
+
+std::filesystem::path generatedFile() {
+    static const std::filesystem::path path = [] {
+        const auto p = std::filesystem::temp_directory_path() / "velmora-bench-reference.csv";
+        std::ofstream out(p, std::ios::binary);
+        out << "StoneID,StoneName,SgAverage,SgMin,SgMax,SgRange,Ri,RiMin,RiMax,Hardness,HMin,Hmax,"
+               "StonenameUSB,SgAverageUSB,Birefringence,StoneFamily,NEW,BirefMin,BirefMax,"
+               "Description1,Description2,Description3,Color1,Color2,Color3,Color4,Color5,Color6\n";
+        std::mt19937 rng(42);
+        const char* families[] = {"Quartz", "Beryl",    "Corundum",
+                                  "Garnet", "Feldspar", "Tourmaline"};
+        for (int i = 0; i < 100000; ++i) {
+            const double ri = 1.4 + (rng() % 1000) / 1000.0;
+            const double sg = 2.0 + (rng() % 3000) / 1000.0;
+            char name[32];
+            std::snprintf(name, sizeof name, "Stone %c%c%c %d", static_cast<int>('A' + rng() % 26),
+                          static_cast<int>('a' + rng() % 26), static_cast<int>('a' + rng() % 26),
+                          i);
+            char line[512];
+            std::snprintf(
+                line, sizeof line,
+                "%d,%s,%.2f,%.2f,%.2f,%.2f-%.2f,%.3f-%.3f,%.3f,%.3f,7-7.5,7,7.5,%s,%.2f,0.009,%s,%"
+                "d,"
+                "0.008,0.010,Brazil^ Madagascar^ Sri Lanka and Myanmar,Uniaxial positive; weak "
+                "pleochroism; two-phase inclusions and growth zoning,Synthetic hydrothermal "
+                "material and glass imitations,Green,Red,,Blue,,\n",
+                i, name, sg + 0.02, sg, sg + 0.04, sg, sg + 0.04, ri, ri + 0.009, ri, ri + 0.009,
+                name, sg + 0.02, families[i % 6], i % 20 == 0 ? 0 : 1);
+            out << line;
+        }
+        return p;
+    }();
+    return path;
+}
+
+void BM_LoadReferenceFile(benchmark::State& state) {
+    const auto path = generatedFile();
+    const auto bytes = std::filesystem::file_size(path);
+    std::ostringstream sink;
+    for (auto _ : state) {
+        velmora::StoneList arr_stones;
+        velmora::StoneList arr_stonesGlobal;
+        velmora::loadReferenceSet(path, sink, arr_stones, arr_stonesGlobal);
+        benchmark::DoNotOptimize(arr_stonesGlobal.begin());
+        // Freeing the table is the application's exit, not its load.
+        state.PauseTiming();
+        arr_stones = {};
+        arr_stonesGlobal = {};
+        state.ResumeTiming();
+    }
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes));
+    state.counters["MB"] = static_cast<double>(bytes) / 1e6;
+}
+BENCHMARK(BM_LoadReferenceFile)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,119 @@
+#include "data/reference_file.h"
+
+#include "foundation/text.h"
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <string>
+
+namespace velmora {
+
+namespace {
+
+// Where the cells of a quote-free line end: the positions of its commas, and then its length.
+// Nothing when the line does not cut into exactly 28 cells.
+using CellEnds = std::array<std::size_t, Stones::fieldCount>;
+
+std::optional<CellEnds> cutCells(std::string_view line) {
+    CellEnds ends{};
+    std::size_t cell = 0;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == ',') {
+            if (cell == Stones::fieldCount - 1) {
+                return std::nullopt; // a 29th cell
+            }
+            ends[cell++] = i;
+        }
+    }
+    if (cell != Stones::fieldCount - 1) {
+        return std::nullopt;
+    }
+    ends[cell] = line.size();
+    return ends;
+}
+
+std::string_view cell(std::string_view line, const CellEnds& ends, std::size_t i) {
+    const std::size_t start = i == 0 ? 0 : ends[i - 1] + 1;
+    return line.substr(start, ends[i] - start);
+}
+
+void fillFields(std::string_view line, const CellEnds& ends, Stones& stone) {
+    for (std::size_t i = 0; i < Stones::fieldCount; ++i) {
+        stone.field(i).assign(cell(line, ends, i));
+    }
+}
+
+// The line without its double quotes; scratch holds the text when there were any.
+std::string_view withoutQuotes(std::string_view line, std::string& scratch) {
+    if (line.find('"') == std::string_view::npos) {
+        return line;
+    }
+    scratch.clear();
+    std::copy_if(line.begin(), line.end(), std::back_inserter(scratch),
+                 [](char c) { return c != '"'; });
+    return scratch;
+}
+
+constexpr std::size_t nameColumn = 1;
+constexpr std::size_t flagColumn = 16;
+
+} // namespace
+
+std::optional<Stones> rowToRecord(std::string_view line) {
+    std::string scratch;
+    line = withoutQuotes(line, scratch);
+    const auto ends = cutCells(line);
+    if (!ends) {
+        return std::nullopt;
+    }
+    Stones stone;
+    fillFields(line, *ends, stone);
+    return stone;
+}
+
+std::vector<Stones> parseReferenceText(std::string_view text) {
+    // The rows are chosen and put in name order as views into the text first, then built in their
+    // final place: no record is built for a row that is dropped, and none is moved by the sort.
+    struct Row {
+        std::string_view key; // the name in normal form
+        std::string_view line;
+        std::size_t ends; // index into cellEnds
+    };
+    std::vector<CellEnds> cellEnds;
+    std::deque<std::string> storage; // unquoted lines and normalized names the views point into
+    std::vector<Row> rows;
+    std::string scratch;
+    bool inOrder = true;
+    const auto lines = text::splitLines(text);
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        std::string_view line = withoutQuotes(lines[i], scratch);
+        const auto ends = cutCells(line);
+        if (!ends || cell(line, *ends, flagColumn) != "1") {
+            continue;
+        }
+        if (line.data() == scratch.data()) {
+            line = storage.emplace_back(scratch);
+        }
+        std::string_view key = cell(line, *ends, nameColumn);
+        if (!text::isAscii(key)) {
+            if (std::string n = text::normalized(key); n != key) {
+                key = storage.emplace_back(std::move(n));
+            }
+        }
+        inOrder = inOrder && (rows.empty() || !(key < rows.back().key));
+        rows.push_back({key, line, cellEnds.size()});
+        cellEnds.push_back(*ends);
+    }
+    if (!inOrder) {
+        std::stable_sort(rows.begin(), rows.end(),
+                         [](const Row& a, const Row& b) { return a.key < b.key; });
+    }
+    std::vector<Stones> stones(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        fillFields(rows[i].line, cellEnds[rows[i].ends], stones[i]);
+    }
+    return stones;
+}
+
+} // namespace velmora

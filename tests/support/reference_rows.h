@@ -1,0 +1,23 @@
+#pragma once
+
+// Building reference-file text in tests: a row of 28 cells from the few that matter.
+
+#include <map>
+#include <string>
+
+namespace velmora::test {
+
+inline constexpr const char* referenceHeader =
+    "StoneID,StoneName,SgAverage,SgMin,SgMax,SgRange,Ri,RiMin,RiMax,Hardness,HMin,Hmax,"
+    "StonenameUSB,SgAverageUSB,Birefringence,StoneFamily,NEW,BirefMin,BirefMax,Description1,"
+    "Description2,Description3,Color1,Color2,Color3,Color4,Color5,Color6";
+
+// Cells by column index; the rest are empty, except NEW (16) which is "1" unless given.
+std::string row(const std::map<int, std::string>& cells);
+
+// A row with the usual cells of a stone.
+std::string stoneRow(const std::string& id, const std::string& name, const std::string& ri = "",
+                     const std::string& sg = "", const std::string& hardness = "",
+                     const std::string& color1 = "");
+
+} // namespace velmora::test
