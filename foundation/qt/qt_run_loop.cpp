@@ -1,0 +1,45 @@
+#include "foundation/qt/qt_run_loop.h"
+
+#include <QMetaObject>
+#include <QTimer>
+
+namespace velmora {
+
+QtRunLoop::QtRunLoop(QObject* context) : context_(context) {}
+
+QtRunLoop::~QtRunLoop() {
+    for (auto& [id, timer] : timers_) {
+        delete timer;
+    }
+}
+
+void QtRunLoop::post(Task task) {
+    // A task posted while the application object is being torn down has nowhere to run.
+    if (QObject* context = context_.data()) {
+        QMetaObject::invokeMethod(context, std::move(task), Qt::QueuedConnection);
+    }
+}
+
+RunLoop::TimerId QtRunLoop::scheduleRepeating(std::chrono::milliseconds interval, Task task) {
+    auto* timer = new QTimer;
+    timer->setTimerType(Qt::PreciseTimer);
+    timer->setInterval(interval);
+    QObject::connect(timer, &QTimer::timeout, timer, std::move(task));
+    timer->start();
+    const TimerId id = next_++;
+    timers_.emplace(id, timer);
+    return id;
+}
+
+void QtRunLoop::cancel(TimerId id) {
+    const auto it = timers_.find(id);
+    if (it == timers_.end()) {
+        return;
+    }
+    // The timer may be cancelling itself from inside its own timeout: stop now, free later.
+    it->second->stop();
+    it->second->deleteLater();
+    timers_.erase(it);
+}
+
+} // namespace velmora
