@@ -33,6 +33,8 @@ bool Dictionary::operator==(const Dictionary& other) const {
     return entries_ == other.entries_;
 }
 
+Value::Value(Dictionary d) : v_(std::make_shared<const Dictionary>(std::move(d))) {}
+
 const Dictionary* Value::asDictionary() const {
     const auto* p = std::get_if<std::shared_ptr<const Dictionary>>(&v_);
     return p ? p->get() : nullptr;

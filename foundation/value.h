@@ -16,29 +16,7 @@ namespace velmora {
 
 using Bytes = std::vector<std::uint8_t>;
 
-class Value;
-
-class Dictionary {
-public:
-    using Entry = std::pair<std::string, Value>;
-
-    Dictionary() = default;
-    Dictionary(std::initializer_list<Entry> entries);
-
-    // Replaces the value of an existing key in place, or appends the key at the end.
-    void set(const std::string& key, Value value);
-    const Value* find(const std::string& key) const;
-    bool contains(const std::string& key) const { return find(key) != nullptr; }
-    void clear() { entries_.clear(); }
-    bool empty() const { return entries_.empty(); }
-    std::size_t size() const { return entries_.size(); }
-    const std::vector<Entry>& entries() const { return entries_; }
-
-    bool operator==(const Dictionary& other) const;
-
-private:
-    std::vector<Entry> entries_;
-};
+class Dictionary;
 
 class Value {
 public:
@@ -56,7 +34,7 @@ public:
     Value(const char* s) : v_(std::string(s)) {}
     Value(std::string s) : v_(std::move(s)) {}
     Value(Bytes b) : v_(std::move(b)) {}
-    Value(Dictionary d) : v_(std::make_shared<Dictionary>(std::move(d))) {}
+    Value(Dictionary d);
     Value(Record r) : v_(std::move(r)) {}
 
     bool isNone() const { return std::holds_alternative<std::monostate>(v_); }
@@ -80,6 +58,28 @@ private:
     std::variant<std::monostate, bool, std::int64_t, std::string, Bytes,
                  std::shared_ptr<const Dictionary>, Record>
         v_;
+};
+
+class Dictionary {
+public:
+    using Entry = std::pair<std::string, Value>;
+
+    Dictionary() = default;
+    Dictionary(std::initializer_list<Entry> entries);
+
+    // Replaces the value of an existing key in place, or appends the key at the end.
+    void set(const std::string& key, Value value);
+    const Value* find(const std::string& key) const;
+    bool contains(const std::string& key) const { return find(key) != nullptr; }
+    void clear() { entries_.clear(); }
+    bool empty() const { return entries_.empty(); }
+    std::size_t size() const { return entries_.size(); }
+    const std::vector<Entry>& entries() const { return entries_; }
+
+    bool operator==(const Dictionary& other) const;
+
+private:
+    std::vector<Entry> entries_;
 };
 
 } // namespace velmora

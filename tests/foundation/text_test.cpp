@@ -44,7 +44,8 @@ TEST(TextLines, EachOfTheSevenNewlinesCutsOnItsOwn) {
     const std::vector<std::string> breaks = {"\n",       "\v",           "\f",          "\r",
                                              "\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"};
     for (const auto& nl : breaks) {
-        const auto lines = splitLines("a" + nl + "b");
+        const std::string text = "a" + nl + "b";
+        const auto lines = splitLines(text);
         ASSERT_EQ(lines.size(), 2u) << "newline of " << nl.size() << " bytes";
         EXPECT_EQ(lines[0], "a");
         EXPECT_EQ(lines[1], "b");
