@@ -4,20 +4,6 @@
 
 namespace velmora {
 
-DFUDevice::DFUDevice(UsbWatcher& watcher, std::ostream& out, NotificationCenter& center)
-    : watcher_(watcher), out_(out), center_(center) {}
-
-void DFUDevice::initUsb() {
-    watcher_.watch(
-        {vendorId, productId}, [this](UsbServices& services) { devicesAttached(services); },
-        [this](UsbServices& services) { devicesRemoved(services); });
-    watcher_.run();
-}
-
-void DFUDevice::stop() {
-    watcher_.stop();
-}
-
 void DFUDevice::devicesAttached(UsbServices& services) {
     for (auto& service : services) {
         usb::printLine(out_, "usb Device Name: " + usb::registryNameOrEmpty(*service, out_));

@@ -6,6 +6,7 @@
 // by another client as a failure, since it cannot update a device it does not hold. Nothing in the
 // application starts it.
 
+#include "device/usb_service_handler.h"
 #include "device/usb_watcher.h"
 #include "foundation/notification_center.h"
 
@@ -19,20 +20,18 @@ namespace velmora {
 inline constexpr char DFUDeviceConnected[] = "DFUDeviceConnected";
 inline constexpr char DFUDeviceDisconnected[] = "DFUDeviceDisconnected";
 
-class DFUDevice {
+class DFUDevice : public UsbServiceHandler {
 public:
     // Diagnostic lines go to out; notifications to center, posted from the thread of initUsb().
     explicit DFUDevice(UsbWatcher& watcher, std::ostream& out = std::cout,
-                       NotificationCenter& center = NotificationCenter::defaultCenter());
-    virtual ~DFUDevice() = default;
+                       NotificationCenter& center = NotificationCenter::defaultCenter())
+        : UsbServiceHandler(watcher, out, center) {}
 
     // Watches for the instrument until stop(): meant for a thread of its own. Call once.
-    void initUsb();
-    // Safe from any thread; initUsb() returns soon after.
-    void stop();
+    void initUsb() { watchUntilStopped({{vendorId, productId}}); }
 
-    virtual void devicesAttached(UsbServices& services);
-    virtual void devicesRemoved(UsbServices& services);
+    void devicesAttached(UsbServices& services) override;
+    void devicesRemoved(UsbServices& services) override;
 
     // The instrument's identifiers, the only pair watched.
     static constexpr std::uint16_t vendorId = 0x04D8;
@@ -41,11 +40,6 @@ public:
     // The interfaces of the instrument last opened; it stays open while they are held.
     std::shared_ptr<UsbDeviceInterface> deviceInterfacePtrPtr;
     std::shared_ptr<UsbPlugInInterface> plugInInterfacePtrPtr;
-
-private:
-    UsbWatcher& watcher_;
-    std::ostream& out_;
-    NotificationCenter& center_;
 };
 
 } // namespace velmora

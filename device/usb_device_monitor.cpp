@@ -6,20 +6,7 @@ namespace velmora {
 
 USBDeviceMonitor::USBDeviceMonitor(std::vector<USBMonitorData> vp, UsbWatcher& watcher,
                                    std::ostream& out, NotificationCenter& center)
-    : vp(std::move(vp)), watcher_(watcher), out_(out), center_(center) {}
-
-void USBDeviceMonitor::start() {
-    for (const auto& criterion : vp) {
-        watcher_.watch(
-            criterion, [this](UsbServices& services) { devicesAttached(services); },
-            [this](UsbServices& services) { devicesRemoved(services); });
-    }
-    watcher_.run();
-}
-
-void USBDeviceMonitor::stop() {
-    watcher_.stop();
-}
+    : UsbServiceHandler(watcher, out, center), vp(std::move(vp)) {}
 
 void USBDeviceMonitor::devicesAttached(UsbServices& services) {
     for (auto& service : services) {

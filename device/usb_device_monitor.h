@@ -5,6 +5,7 @@
 // every one removed. Nothing in the application starts it: it is what a technician runs to see
 // what is plugged in.
 
+#include "device/usb_service_handler.h"
 #include "device/usb_watcher.h"
 #include "foundation/notification_center.h"
 
@@ -31,28 +32,20 @@ struct USBDevice {
     std::shared_ptr<UsbPlugInInterface> plugInInterfacePtrPtr;
 };
 
-class USBDeviceMonitor {
+class USBDeviceMonitor : public UsbServiceHandler {
 public:
     // Diagnostic lines go to out; notifications to center, posted from the thread of start().
     USBDeviceMonitor(std::vector<USBMonitorData> vp, UsbWatcher& watcher,
                      std::ostream& out = std::cout,
                      NotificationCenter& center = NotificationCenter::defaultCenter());
-    virtual ~USBDeviceMonitor() = default;
 
     // Watches every pair and reports until stop(): meant for a thread of its own. Call once.
-    void start();
-    // Safe from any thread; start() returns soon after.
-    void stop();
+    void start() { watchUntilStopped(vp); }
 
-    virtual void devicesAttached(UsbServices& services);
-    virtual void devicesRemoved(UsbServices& services);
+    void devicesAttached(UsbServices& services) override;
+    void devicesRemoved(UsbServices& services) override;
 
     const std::vector<USBMonitorData> vp;
-
-private:
-    UsbWatcher& watcher_;
-    std::ostream& out_;
-    NotificationCenter& center_;
 };
 
 } // namespace velmora

@@ -52,9 +52,10 @@ class NotificationPrinter {
 public:
     NotificationPrinter(const WatchSource& source, Context& context) {
         NotificationCenter& center = NotificationCenter::defaultCenter();
-        for (const auto& [name, fieldsOf] : source.notifications) {
-            tokens_.push_back(
-                center.addObserver(name, [&context, &fieldsOf](const Notification& n) {
+        for (const auto& notification : source.notifications) {
+            const WatchSource::FieldsOf& fieldsOf = notification.second;
+            tokens_.push_back(center.addObserver(
+                notification.first, [&context, &fieldsOf](const Notification& n) {
                     Fields fields{{"notification", n.name}};
                     for (auto& field : fieldsOf(n.object)) {
                         fields.push_back(std::move(field));

@@ -17,7 +17,7 @@ LibusbDeviceReference::LibusbDeviceReference(const LibusbDeviceReference& other)
     : context_(other.context_), device_(libusb_ref_device(other.device_)) {}
 
 LibusbDeviceReference::LibusbDeviceReference(LibusbDeviceReference&& other) noexcept
-    : context_(other.context_), device_(std::exchange(other.device_, nullptr)) {}
+    : context_(std::move(other.context_)), device_(std::exchange(other.device_, nullptr)) {}
 
 LibusbDeviceReference::~LibusbDeviceReference() {
     if (device_ != nullptr) {

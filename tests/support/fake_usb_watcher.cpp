@@ -83,7 +83,7 @@ void FakeUsbWatcher::watch(USBMonitorData criterion, Handler attached, Handler r
     deliver(watches_.back(), true, present_);
 }
 
-void FakeUsbWatcher::plug(FakeUsbDevice device) {
+void FakeUsbWatcher::plug(const FakeUsbDevice& device) {
     const std::lock_guard lock(mutex_);
     present_.push_back(device);
     for (const auto& watch : watches_) {

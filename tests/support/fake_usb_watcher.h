@@ -44,7 +44,7 @@ public:
 
     // Puts a device on the bus: the watches that match it hear of it, in their initial drain
     // when they begin later.
-    void plug(FakeUsbDevice device);
+    void plug(const FakeUsbDevice& device);
     void unplug(std::uint64_t location);
     void later(std::function<void()> step);
 
