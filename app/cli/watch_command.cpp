@@ -1,0 +1,143 @@
+#include "app/cli/cli.h"
+#include "app/cli/output.h"
+#include "app/cli/stop_signal.h"
+#include "app/cli/watch_platform.h"
+#include "app/cli/watch_sources.h"
+#include "foundation/notification_center.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <ostream>
+#include <thread>
+
+namespace velmora::cli {
+
+namespace {
+
+// 0x04D8 and 0X04d8 are hexadecimal, 1240 is decimal. A leading zero does not make a number
+// octal, as it would for most parsers: 01240 is still 1240.
+std::optional<std::uint16_t> parseUsbIdentifier(std::string_view text) {
+    int base = 10;
+    if (text.starts_with("0x") || text.starts_with("0X")) {
+        base = 16;
+        text.remove_prefix(2);
+    }
+    std::uint16_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);
+    if (text.empty() || error != std::errc() || end != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+const CLI::Validator usbIdentifier(
+    [](std::string& text) {
+        const auto value = parseUsbIdentifier(text);
+        if (!value) {
+            return std::string("a USB identifier is a number from 0 to 0xFFFF, written in hex "
+                               "as 0x04D8 or in decimal as 1240");
+        }
+        text = std::to_string(*value);
+        return std::string();
+    },
+    "ID");
+
+struct WatchRequest {
+    std::string source;
+    WatchOptions options;
+};
+
+// Prints each notification the source posts as one record: its name, then its object's fields.
+class NotificationPrinter {
+public:
+    NotificationPrinter(const WatchSource& source, Context& context) {
+        NotificationCenter& center = NotificationCenter::defaultCenter();
+        for (const auto& notification : source.notifications) {
+            const WatchSource::FieldsOf& fieldsOf = notification.second;
+            tokens_.push_back(center.addObserver(
+                notification.first, [&context, &fieldsOf](const Notification& n) {
+                    Fields fields{{"notification", n.name}};
+                    for (auto& field : fieldsOf(n.object)) {
+                        fields.push_back(std::move(field));
+                    }
+                    printRecord(*context.out, context.json, fields);
+                    context.out->flush();
+                }));
+        }
+    }
+    NotificationPrinter(const NotificationPrinter&) = delete;
+    NotificationPrinter& operator=(const NotificationPrinter&) = delete;
+    ~NotificationPrinter() {
+        for (const auto token : tokens_) {
+            NotificationCenter::defaultCenter().removeObserver(token);
+        }
+    }
+
+private:
+    std::vector<NotificationCenter::Token> tokens_;
+};
+
+void runWatch(const WatchRequest& request, Context& context) {
+    const auto& sources = watchSources();
+    const auto source = std::ranges::find(sources, request.source, &WatchSource::name);
+    if (request.options.interval && !source->takesInterval) {
+        *context.err << "--interval applies to watch serial only\n";
+        context.exitCode = exitUsage;
+        return;
+    }
+    // The watchers' own lines stay off standard output when it carries JSON Lines.
+    std::ostream& lines = context.json ? *context.err : *context.out;
+    const auto watch = source->make(request.options, context, lines);
+    if (!watch) {
+        return;
+    }
+    StopSignal stop;
+    if (!stop.valid()) {
+        *context.err << "Cannot watch: the system gave no pipe to wait for Ctrl-C on\n";
+        context.exitCode = exitAlert;
+        return;
+    }
+    const auto ending = watchPlatform().endOn(stop);
+    const NotificationPrinter printer(*source, context);
+    // The watcher blocks its own thread; should it ever end by itself, the wait ends with it.
+    std::thread watcher([&] {
+        watch->start();
+        stop.request();
+    });
+    stop.wait();
+    watch->stop();
+    watcher.join();
+}
+
+} // namespace
+
+void addWatchCommand(CLI::App& app, Context& context) {
+    auto* command = app.add_subcommand(
+        "watch", "Start a device watcher and print each notification as it comes, until Ctrl-C");
+    auto request = std::make_shared<WatchRequest>();
+    std::vector<std::string> names;
+    for (const auto& source : watchSources()) {
+        names.push_back(source.name);
+    }
+    command
+        ->add_option("source", request->source, "What to watch: " + CLI::detail::join(names, ", "))
+        ->required()
+        ->check(CLI::IsMember(names));
+    command
+        ->add_option("--vendor", request->options.vendorId,
+                     "USB vendor identifier (usb: default 0x04D8; serial: only ports of it)")
+        ->transform(usbIdentifier)
+        ->type_name("ID");
+    command
+        ->add_option("--product", request->options.productId,
+                     "USB product identifier (usb: default 0xF9FF; serial: only ports of it)")
+        ->transform(usbIdentifier)
+        ->type_name("ID");
+    command
+        ->add_option("--interval", request->options.interval,
+                     "serial: seconds between polls (default 0.25)")
+        ->type_name("SECONDS");
+    command->callback([&context, request] { runWatch(*request, context); });
+}
+
+} // namespace velmora::cli
