@@ -35,6 +35,8 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     app.add_flag("--json", context.json, "Print JSON Lines instead of text");
 
     addStonesCommand(app, context);
+    addIdentifyCommand(app, context);
+    addShowCommand(app, context);
 
     try {
         app.parse(argc, argv);
