@@ -85,13 +85,6 @@ TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearches) {
     EXPECT_EQ(h.tableRows(), (Rows{{"1", "Quartz"}}));
 }
 
-TEST(Enter, ThePlaceholderReadingIsSearchedLikeAnyOther) {
-    WindowHarness h({.rows = reference});
-    h.click(h.window.btn_enter);
-    EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.000");
-    EXPECT_EQ(h.alerts(), Texts{"Not Found in Record"});
-}
-
 TEST(Reset, MakesEveryCriterionUnavailableButKeepsTheResultsAndTheColour) {
     WindowHarness h({.rows = reference});
     MainWindow& w = h.window;

@@ -6,9 +6,9 @@
 // gesture queued has run, as it would before the user's next event.
 
 #include "tests/support/manual_run_loop.h"
+#include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_instrument_link.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/scripted_alert_presenter.h"
 #include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 #include "ui/main_window.h"
@@ -54,7 +54,7 @@ public:
     TempDir dir;
     ManualRunLoop runLoop;
     NotificationCenter notificationCenter;
-    ScriptedAlertPresenter alertPresenter;
+    RecordingAlertPresenter alertPresenter;
     SettableLocale locale;
     std::ostringstream standardOutput;
     RecordingScreens screens;

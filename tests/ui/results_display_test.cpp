@@ -144,18 +144,5 @@ TEST(Results, ARowPastTheEndOfTheListHasNoCellAndShowsNothing) {
     EXPECT_EQ(cell->textField()->text(), "Quartz");
 }
 
-TEST(Results, AnInterfaceWithoutTheCellViewsGivesNoCells) {
-    WindowHarness h({.rows = std::vector<std::string>{stoneRow("1", "Beryl")}, .loadView = false});
-    h.window.tableView.registerCellView(MainWindow::idCell,
-                                        [] { return std::make_shared<View>(); });
-    h.window.tableView.registerCellView(MainWindow::titleCell,
-                                        [] { return std::make_shared<TableCellView>(false); });
-    h.controller.viewDidLoad();
-    h.click(h.window.bvtn_dictionary);
-    EXPECT_EQ(cellText(h.window.tableView, 0, 0), std::nullopt);
-    EXPECT_NE(h.window.tableView.viewAt(1, 0), nullptr); // returned as it is, without text
-    EXPECT_EQ(cellText(h.window.tableView, 1, 0), std::nullopt);
-}
-
 } // namespace
 } // namespace velmora::test

@@ -21,18 +21,6 @@ TEST(PopUpButton, KeepsItsTitlesUniqueAndSelectsTheFirstItemAdded) {
     EXPECT_EQ(popUp.itemTitles(), std::vector<std::string>{"Quartz"});
 }
 
-TEST(PopUpButton, APickRunsTheActionOnlyWhenEnabledAndOnAnItem) {
-    PopUpButton popUp;
-    std::vector<std::string> picked;
-    popUp.setAction([&](PopUpButton& sender) { picked.push_back(sender.titleOfSelectedItem()); });
-    popUp.addItems({"Green", "Red"});
-    popUp.pickItem(1);
-    popUp.pickItem(2);
-    popUp.setEnabled(false);
-    popUp.pickItem(0);
-    EXPECT_EQ(picked, std::vector<std::string>{"Red"});
-}
-
 TEST(ViewElement, TellsItsObserverOfRealChangesOnly) {
     TextField field;
     std::vector<Property> seen;
@@ -56,9 +44,6 @@ TEST(Button, ACheckBoxTogglesBeforeItsActionAndADisabledOneIgnoresClicks) {
     box.performClick();
     EXPECT_EQ(states,
               (std::vector<ButtonState>{ButtonState::On, ButtonState::Off, ButtonState::On}));
-    Button push;
-    push.performClick();
-    EXPECT_EQ(push.state(), ButtonState::Off);
 }
 
 class CountingSource final : public TableViewDataSource, public TableViewDelegate {
@@ -77,33 +62,25 @@ public:
 
 TEST(TableView, ShowsTheRowsOfItsLastReloadAndAsksOnlyAboutThose) {
     MainWindow window;
+    TableView& table = window.tableView;
     CountingSource source;
-    window.tableView.setDataSource(&source);
-    window.tableView.setDelegate(&source);
+    table.setDataSource(&source);
+    table.setDelegate(&source);
     source.rows = 3;
-    EXPECT_EQ(window.tableView.numberOfRows(), 0);
-    window.tableView.reloadData();
-    source.rows = 1;
-    EXPECT_EQ(window.tableView.numberOfRows(), 3);
-    window.tableView.viewAt(0, 2);
-    window.tableView.viewAt(0, 3);
-    window.tableView.viewAt(2, 0);
-    EXPECT_EQ(source.asked, std::vector<int>{2});
-}
-
-TEST(TableView, AClickSelectsWhenTheDelegateAgreesAndAReloadDropsAVanishedRow) {
-    MainWindow window;
-    CountingSource source;
-    window.tableView.setDataSource(&source);
-    window.tableView.setDelegate(&source);
-    source.rows = 3;
-    window.tableView.reloadData();
-    window.tableView.clickRow(2);
-    window.tableView.clickRow(1);
-    EXPECT_EQ(window.tableView.selectedRow(), 2);
+    EXPECT_EQ(table.numberOfRows(), 0);
+    table.reloadData();
     source.rows = 2;
-    window.tableView.reloadData();
-    EXPECT_EQ(window.tableView.selectedRow(), TableView::noSelection);
+    EXPECT_EQ(table.numberOfRows(), 3);
+    table.viewAt(0, 2);
+    table.viewAt(0, 3);
+    table.viewAt(2, 0);
+    EXPECT_EQ(source.asked, std::vector<int>{2});
+    // A click selects when the delegate agrees; a reload drops a row that is no longer there.
+    table.clickRow(2);
+    table.clickRow(1);
+    EXPECT_EQ(table.selectedRow(), 2);
+    table.reloadData();
+    EXPECT_EQ(table.selectedRow(), TableView::noSelection);
 }
 
 TEST(MainWindow, TypingGoesToTheFocusedEntryOneCharacterAtATime) {

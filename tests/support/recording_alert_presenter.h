@@ -1,11 +1,9 @@
 #pragma once
 
-// Records every alert and answers it from a script: the buttons given with answerNext, then the
-// default button.
+// Records every alert and answers it with the default button.
 
 #include "ui/alert_presenter.h"
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -19,12 +17,11 @@ struct RecordedAlert {
     std::vector<std::string> buttons;
 };
 
-class ScriptedAlertPresenter final : public AlertPresenter {
+class RecordingAlertPresenter final : public AlertPresenter {
 public:
     std::size_t runModal(const std::string& message, const std::string& informative,
                          AlertStyle style, const std::vector<std::string>& buttons) override;
 
-    void answerNext(std::size_t button) { script_.push_back(button); }
     // Runs while the alert is up, before it is answered: what the user sees behind it.
     void whileShown(std::function<void()> look) { whileShown_ = std::move(look); }
 
@@ -35,7 +32,6 @@ public:
 
 private:
     std::vector<RecordedAlert> alerts_;
-    std::deque<std::size_t> script_;
     std::function<void()> whileShown_;
 };
 
