@@ -36,6 +36,8 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
 
     addStonesCommand(app, context);
     addWatchCommand(app, context);
+    addIdentifyCommand(app, context);
+    addShowCommand(app, context);
 
     try {
         app.parse(argc, argv);

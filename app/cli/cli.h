@@ -37,6 +37,8 @@ struct Context {
 // Each command adds itself to the app; its callback sets context.exitCode.
 void addStonesCommand(CLI::App& app, Context& context);
 void addWatchCommand(CLI::App& app, Context& context);
+void addIdentifyCommand(CLI::App& app, Context& context);
+void addShowCommand(CLI::App& app, Context& context);
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 

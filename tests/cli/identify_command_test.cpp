@@ -1,0 +1,87 @@
+#include "tests/cli/cli_runner.h"
+#include "tests/cli/reference_file.h"
+#include "tests/support/window_harness.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+const std::vector<std::string> reference = {
+    stoneRow("12", "Quartz", "1.544 - 1.553", "2.65-2.66", "7-7.5", "Pink"),
+    stoneRow("x", "Amethyst", "1.544-1.553", "2.6-2.7", "7", "Purple"),
+    stoneRow("3", "Beryl", "1.57-1.60", "2.6-2.9", "7.5-8", "Green"),
+};
+
+CliResult identify(const ReferenceFile& file, std::vector<std::string> args) {
+    args.insert(args.begin(), {"identify", "--reference", file.path});
+    return runCli(args);
+}
+
+TEST(IdentifyCommand, UnderACommaSeparatorListsWhatTheWindowsTableLists) {
+    ReferenceFile file(reference);
+    const auto r = identify(file, {"--ri", "1,544", "--decimal-separator", ","});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.err, "");
+
+    WindowHarness window({.rows = reference, .decimalSeparator = ","});
+    window.click(window.window.bvtn_dictionary);
+    window.click(window.window.check_RI);
+    window.type(window.window.txt_leftRIReading, "1,544");
+    window.leave();
+    window.click(window.window.btn_search);
+    std::string listed;
+    for (const auto& [number, name] : window.tableRows()) {
+        listed += number + "\t" + name + "\n";
+    }
+    EXPECT_EQ(r.out, listed);
+    EXPECT_EQ(r.out, "1\tAmethyst\n12\tQuartz\n");
+}
+
+TEST(IdentifyCommand, AnAlertIsPrintedAndEndsTheCommand) {
+    ReferenceFile file(reference);
+    auto r = identify(file, {"--ri", "1,544", "--decimal-separator", "."});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.err, "Please use '.' as decimals!\n");
+    EXPECT_EQ(r.out, "");
+    r = identify(file, {"--hardness", "10"});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.err, "Result: Not Found in Record\n");
+    r = identify(file, {"--name", ""});
+    EXPECT_EQ(r.err, "Please enter name of stone!\n");
+    r = identify(file, {"--sg", ""});
+    EXPECT_EQ(r.err, "Please insert number only!\n");
+}
+
+TEST(IdentifyCommand, CombinesTheCriteriaGivenAndNoneListsTheWholeSet) {
+    ReferenceFile file(reference);
+    auto r = identify(file, {"--sg", "2.65", "--hardness", "7", "--color", "Pink", "--name", "QUA",
+                             "--ri", "1.55", "--decimal-separator", "."});
+    EXPECT_EQ(r.out, "12\tQuartz\n");
+    r = identify(file, {});
+    EXPECT_EQ(r.out, "1\tAmethyst\n3\tBeryl\n12\tQuartz\n");
+    r = identify(file, {"--json", "--color", "Green"});
+    EXPECT_EQ(r.out, "{\"number\":\"3\",\"name\":\"Beryl\"}\n");
+}
+
+TEST(IdentifyCommand, AnUnknownColourIsAUsageErrorNamingTheTwelve) {
+    ReferenceFile file(reference);
+    const auto r = identify(file, {"--color", "Gray"});
+    EXPECT_EQ(r.status, 2);
+    for (const char* name : {"Green", "Red", "Black", "Yellow", "Orange", "Blue", "Brown",
+                             "Colorless", "White", "Pink", "Purple", "Grey"}) {
+        EXPECT_NE(r.err.find(name), std::string::npos) << name;
+    }
+}
+
+TEST(IdentifyCommand, AnUnreadableReferenceIsToldAndFindsNothing) {
+    TempDir dir;
+    const auto r = runCli({"identify", "--reference", (dir.path() / "none.csv").string()});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_NE(r.err.find("none.csv"), std::string::npos);
+    EXPECT_NE(r.err.find("Result: Not Found in Record\n"), std::string::npos);
+    EXPECT_EQ(r.out, "");
+}
+
+} // namespace
+} // namespace velmora::test

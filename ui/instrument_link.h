@@ -1,0 +1,17 @@
+#pragma once
+
+// The instrument session as the live reading panel drives it: Connect and Disconnect. The
+// session answers through the HIDDevice notifications, not through these calls.
+
+namespace velmora {
+
+class InstrumentLink {
+public:
+    virtual ~InstrumentLink() = default;
+    // Opens the instrument if one is attached; posts HIDDeviceConnected before returning.
+    virtual void connectDataToDevice() = 0;
+    // Ends the session if there is one; posts HIDDeviceDisconnected before returning.
+    virtual void disconnectDataToDevice() = 0;
+};
+
+} // namespace velmora

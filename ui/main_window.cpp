@@ -1,0 +1,78 @@
+#include "ui/main_window.h"
+
+#include "ui/field_editor.h"
+
+#include <unicode/utf8.h>
+
+namespace velmora {
+
+MainWindow::MainWindow() : tableView({{idColumn}, {"titleColumn"}}) {
+    // The tags the actions read: navigation 0 to 3, criteria 0 to 4.
+    btn_RIReading.setTag(0);
+    bvtn_dictionary.setTag(1);
+    btn_tutorial.setTag(2);
+    btn_contactUs.setTag(3);
+    check_RI.setTag(0);
+    check_sg.setTag(1);
+    check_hardness.setTag(2);
+    check_color.setTag(3);
+    check_Name.setTag(4);
+
+    for (TextField* label : {&usb_device_reading, &lbl_deviceStatus, &lbl_stonesCount}) {
+        label->setEditable(false);
+    }
+
+    for (const char* cell : {idCell, titleCell}) {
+        tableView.registerCellView(cell, [] { return std::make_shared<TableCellView>(); });
+    }
+}
+
+bool MainWindow::makeFirstResponder(TextField* field) {
+    if (field == editing_) {
+        return true;
+    }
+    if (field && (!field->isEnabled() || !field->isEditable())) {
+        return false;
+    }
+    if (editing_) {
+        if (TextFieldDelegate* delegate = editing_->delegate()) {
+            FieldEditor editor(*editing_);
+            if (!delegate->controlTextShouldEndEditing(*editing_, editor)) {
+                return false;
+            }
+        }
+    }
+    editing_ = field;
+    return true;
+}
+
+void MainWindow::changedByTyping(TextField& field, std::string text) {
+    field.setText(std::move(text));
+    if (TextFieldDelegate* delegate = field.delegate()) {
+        delegate->controlTextDidChange(&field);
+    }
+}
+
+void MainWindow::insertText(std::string_view typed) {
+    const auto length = static_cast<int32_t>(typed.size());
+    int32_t i = 0;
+    while (editing_ && i < length) {
+        const int32_t start = i;
+        U8_FWD_1(typed.data(), i, length);
+        changedByTyping(*editing_, editing_->text() + std::string(typed.substr(
+                                                          static_cast<std::size_t>(start),
+                                                          static_cast<std::size_t>(i - start))));
+    }
+}
+
+void MainWindow::deleteBackward() {
+    if (!editing_ || editing_->text().empty()) {
+        return;
+    }
+    const std::string& text = editing_->text();
+    auto end = static_cast<int32_t>(text.size());
+    U8_BACK_1(reinterpret_cast<const uint8_t*>(text.data()), 0, end);
+    changedByTyping(*editing_, text.substr(0, static_cast<std::size_t>(end)));
+}
+
+} // namespace velmora

@@ -1,0 +1,123 @@
+#pragma once
+
+// The main window's controller: the state machine over the window's named elements. It sets the
+// window up, switches between the R.I. reading and dictionary tabs, runs the search form, lists
+// the results and shows the chosen stone, and shows the instrument panel's state. Its operations
+// are spread over files by concern: ui/ for the window, search/ for the search form.
+//
+// Work it queues on the run loop refers to the controller: run or drop it before the controller
+// goes.
+
+#include "foundation/locale.h"
+#include "foundation/notification_center.h"
+#include "foundation/run_loop.h"
+#include "ui/alert_presenter.h"
+#include "ui/field_editor.h"
+#include "ui/instrument_link.h"
+#include "ui/main_window_outlets.h"
+#include "ui/screen_presenter.h"
+#include "ui/view_controller_state.h"
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace velmora {
+
+struct ViewControllerEnvironment {
+    RunLoop& runLoop;
+    NotificationCenter& notificationCenter;
+    AlertPresenter& alertPresenter;
+    const Locale& locale;
+    // The reference file; nothing when the application has none.
+    std::optional<std::filesystem::path> referenceFile;
+    // Where the load's error line and other diagnostic lines go.
+    std::ostream& standardOutput;
+    ScreenPresenter& screenPresenter;
+    InstrumentLink& instrumentLink;
+};
+
+enum class DevicePanelState { Disconnected, Connected };
+
+class ViewController final : public TableViewDataSource,
+                             public TableViewDelegate,
+                             public TextFieldDelegate,
+                             private MainWindowOutlets,
+                             private ViewControllerState {
+public:
+    static constexpr const char* windowTitle = "Velmora v2.0.1-M-23";
+
+    // Connects the window's controls to their actions; the fields take their starting values.
+    ViewController(MainWindow& window, ViewControllerEnvironment environment);
+
+    const ViewControllerState& state() const { return *this; }
+
+    // Window set-up and tabs (view_controller.cpp, tabs.cpp)
+    void viewDidLoad();
+    void selectTab(int tag);
+    void btn_navigation_tap(Button& sender);
+
+    // Reference data and colours (reference_lists.cpp, colour_selection.cpp)
+    void loadStones();
+    void loadColors();
+    void btn_onChangeColor_tap(PopUpButton& sender);
+
+    // The search form (search/)
+    void searchStones();
+    void resetSearchForm();
+    void clearSearchForm();
+    void enterLiveReading();
+    void btn_checkBox_tap(Button& sender);
+    void btn_search_tap(Button& sender);
+    void btn_enter_tap(Button& sender);
+    void btn_clear_tap(Button& sender);
+    void btn_reset_tap(Button& sender);
+
+    // Entry checks (search/entry_checks.cpp)
+    void controlTextDidChange(TextField* object) override;
+    bool controlTextShouldEndEditing(TextField& control, FieldEditor& editor) override;
+
+    // Results and detail (results_display.cpp)
+    void refreshResults();
+    void showStoneDetail(const Stones& stone);
+    void btn_stoneListChange(PopUpButton& sender);
+    int numberOfRowsInTableView(TableView& table) override;
+    std::shared_ptr<View> tableViewViewFor(TableView& table, const TableColumn* column,
+                                           int row) override;
+    double tableViewHeightOfRow(TableView& table, int row) override;
+    bool tableViewShouldSelectRow(TableView& table, int row) override;
+
+    // The live reading panel (device_panel.cpp)
+    void applyDevicePanelState(DevicePanelState state);
+    void queueDevicePanelState(DevicePanelState state);
+
+private:
+    enum class CheckBoxes { Disable, LeaveEnabled };
+
+    void connectActions();
+    void styleViews();
+    void enableSearchOptions(bool includeRI);
+    void queueEnableSearchOptions(bool includeRI);
+    void enterTab(int tag);
+    void emptyCriteria(CheckBoxes checkBoxes);
+    void clearSwatch();
+    bool isListed(int row) const;
+
+    void showAlert(const std::string& message, const std::string& informative, AlertStyle style);
+    std::string currentDecimalSeparator() const;
+    bool isNumberOnly(const std::string& text) const;
+    bool usesOwnSeparator(const std::string& text) const;
+    bool hasOnlyNumberCharacters(const std::string& text) const;
+    void rejectForeignSeparator(TextField& entry);
+    std::optional<double> readEntryNumber(TextField& entry);
+
+    MainWindow& window_;
+    ViewControllerEnvironment environment_;
+};
+
+// Empties an entry, or the field editor holding its text while it is edited.
+void clearEntry(TextField& field);
+void clearEntry(FieldEditor& editor);
+
+} // namespace velmora
