@@ -35,6 +35,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     app.add_flag("--json", context.json, "Print JSON Lines instead of text");
 
     addStonesCommand(app, context);
+    addReadCommand(app, context);
 
     try {
         app.parse(argc, argv);

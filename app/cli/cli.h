@@ -36,6 +36,7 @@ struct Context {
 
 // Each command adds itself to the app; its callback sets context.exitCode.
 void addStonesCommand(CLI::App& app, Context& context);
+void addReadCommand(CLI::App& app, Context& context);
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 
