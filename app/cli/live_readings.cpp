@@ -51,12 +51,14 @@ bool printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& 
     center.addObserver(HIDDeviceConnected, [&](const Notification&) { connected = true; });
     center.addObserver(HIDDeviceDataReceived, [&](const Notification& n) {
         const Value* data = n.object["data"];
-        if (data == nullptr || data->asString() == nullptr || (count && printed == *count)) {
+        const bool done = count && printed == *count;
+        if (data == nullptr || data->asString() == nullptr || done) {
             return;
         }
         printRecord(out, json, {{"reading", formatReadingForDisplay(*data->asString(), locale)}});
         out.flush();
-        if (++printed == count) {
+        ++printed;
+        if (count && printed == *count) {
             loop.stop();
         }
     });

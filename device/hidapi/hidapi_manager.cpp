@@ -100,7 +100,7 @@ void HidapiManager::reportOpenFailure(const std::string& path) {
 
 HIDDeviceConnector::ManagerFactory hidapiManagerFactory(Log& log,
                                                         std::function<void()> accessDenied) {
-    return [&log, accessDenied] {
+    return [&log, accessDenied = std::move(accessDenied)] {
         return std::make_unique<HidapiManager>(log, accessDenied);
     };
 }

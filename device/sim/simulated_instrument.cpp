@@ -79,7 +79,7 @@ std::vector<std::shared_ptr<HidDevice>> SimulatedInstrument::copyDevices() {
 
 HIDDeviceConnector::ManagerFactory
 simulatedInstrumentFactory(std::shared_ptr<ReadingSource> readings) {
-    return [readings] {
+    return [readings = std::move(readings)] {
         return std::make_unique<SimulatedInstrument>(readings);
     };
 }

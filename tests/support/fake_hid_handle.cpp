@@ -20,40 +20,20 @@ void FakeHidScript::queueRemoval() {
 
 bool FakeHidScript::waitForWrites(std::size_t count) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, 5s, [&] { return writes_.size() >= count; });
+    return changed_.wait_for(lock, 5s, [&] { return record_.writes.size() >= count; });
 }
 
-std::vector<Bytes> FakeHidScript::writes() const {
+FakeHidScript::Record FakeHidScript::record() const {
     const std::lock_guard lock(mutex_);
-    return writes_;
-}
-
-std::thread::id FakeHidScript::writerThread() const {
-    const std::lock_guard lock(mutex_);
-    return writerThread_;
-}
-
-int FakeHidScript::closeCount() const {
-    const std::lock_guard lock(mutex_);
-    return closeCount_;
-}
-
-int FakeHidScript::faults() const {
-    const std::lock_guard lock(mutex_);
-    return faults_;
-}
-
-std::chrono::milliseconds FakeHidScript::longestReadTimeout() const {
-    const std::lock_guard lock(mutex_);
-    return longestReadTimeout_;
+    return record_;
 }
 
 int FakeHidHandle::write(std::span<const std::uint8_t> report) {
     auto& s = *script_;
     const std::lock_guard lock(s.mutex_);
-    s.faults_ += s.gone_ || s.closeCount_ > 0;
-    s.writes_.emplace_back(report.begin(), report.end());
-    s.writerThread_ = std::this_thread::get_id();
+    s.record_.faults += s.gone_ || s.record_.closes > 0;
+    s.record_.writes.emplace_back(report.begin(), report.end());
+    s.record_.writerThread = std::this_thread::get_id();
     s.changed_.notify_all();
     return static_cast<int>(report.size());
 }
@@ -61,8 +41,8 @@ int FakeHidHandle::write(std::span<const std::uint8_t> report) {
 int FakeHidHandle::read(std::span<std::uint8_t> buffer, std::chrono::milliseconds timeout) {
     auto& s = *script_;
     std::unique_lock lock(s.mutex_);
-    s.faults_ += s.gone_ || s.closeCount_ > 0;
-    s.longestReadTimeout_ = std::max(s.longestReadTimeout_, timeout);
+    s.record_.faults += s.gone_ || s.record_.closes > 0;
+    s.record_.longestReadTimeout = std::max(s.record_.longestReadTimeout, timeout);
     s.reading_ = true;
     s.changed_.wait_for(lock, timeout, [&] { return !s.results_.empty(); });
     s.reading_ = false;
@@ -83,8 +63,8 @@ int FakeHidHandle::read(std::span<std::uint8_t> buffer, std::chrono::millisecond
 void FakeHidHandle::close() {
     auto& s = *script_;
     const std::lock_guard lock(s.mutex_);
-    s.faults_ += s.reading_ || s.closeCount_ > 0;
-    ++s.closeCount_;
+    s.record_.faults += s.reading_ || s.record_.closes > 0;
+    ++s.record_.closes;
 }
 
 } // namespace velmora::test

@@ -19,19 +19,21 @@ namespace velmora::test {
 
 class FakeHidScript {
 public:
+    struct Record {
+        std::vector<Bytes> writes;
+        std::thread::id writerThread;
+        int closes = 0;
+        // A close during a read; a read, write or close after the removal or the close.
+        int faults = 0;
+        std::chrono::milliseconds longestReadTimeout{0};
+    };
+
     void queueInputReport(Bytes report);
     // The next read fails: the device was pulled out.
     void queueRemoval();
-
     // Waits until that many reports were written; false after a few seconds without.
     bool waitForWrites(std::size_t count);
-
-    std::vector<Bytes> writes() const;
-    std::thread::id writerThread() const;
-    int closeCount() const;
-    // Faults of the caller: a close during a read, a read or write after the removal or the close.
-    int faults() const;
-    std::chrono::milliseconds longestReadTimeout() const;
+    Record record() const;
 
 private:
     friend class FakeHidHandle;
@@ -39,13 +41,9 @@ private:
     mutable std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<std::optional<Bytes>> results_; // none: the removal
-    std::vector<Bytes> writes_;
-    std::thread::id writerThread_;
     bool reading_ = false;
     bool gone_ = false;
-    int closeCount_ = 0;
-    int faults_ = 0;
-    std::chrono::milliseconds longestReadTimeout_{0};
+    Record record_;
 };
 
 class FakeHidHandle final : public hidapi::HidHandle {

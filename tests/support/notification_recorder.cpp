@@ -1,7 +1,5 @@
 #include "tests/support/notification_recorder.h"
 
-#include <algorithm>
-
 namespace velmora::test {
 
 NotificationRecorder::NotificationRecorder(NotificationCenter& center,
@@ -29,12 +27,6 @@ std::vector<std::string> NotificationRecorder::names() const {
         result.push_back(n.name);
     }
     return result;
-}
-
-std::size_t NotificationRecorder::count(const std::string& name) const {
-    return static_cast<std::size_t>(
-        std::count_if(notifications_.begin(), notifications_.end(),
-                      [&](const Notification& n) { return n.name == name; }));
 }
 
 } // namespace velmora::test

@@ -20,7 +20,6 @@ public:
 
     const std::vector<Notification>& notifications() const { return notifications_; }
     std::vector<std::string> names() const;
-    std::size_t count(const std::string& name) const;
 
     // Runs as each notification is recorded, to note what else was true at that moment.
     std::function<void(const Notification&)> onPost;
