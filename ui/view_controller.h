@@ -8,12 +8,12 @@
 // Work it queues on the run loop refers to the controller: run or drop it before the controller
 // goes.
 
+#include "device/instrument_link.h"
 #include "foundation/locale.h"
 #include "foundation/notification_center.h"
 #include "foundation/run_loop.h"
 #include "ui/alert_presenter.h"
 #include "ui/field_editor.h"
-#include "ui/instrument_link.h"
 #include "ui/main_window_outlets.h"
 #include "ui/screen_presenter.h"
 #include "ui/view_controller_state.h"

@@ -38,6 +38,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addWatchCommand(app, context);
     addIdentifyCommand(app, context);
     addShowCommand(app, context);
+    addReadCommand(app, context);
 
     try {
         app.parse(argc, argv);

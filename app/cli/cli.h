@@ -39,6 +39,7 @@ void addStonesCommand(CLI::App& app, Context& context);
 void addWatchCommand(CLI::App& app, Context& context);
 void addIdentifyCommand(CLI::App& app, Context& context);
 void addShowCommand(CLI::App& app, Context& context);
+void addReadCommand(CLI::App& app, Context& context);
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 

@@ -3,12 +3,17 @@
 namespace velmora::test {
 
 NotificationRecorder::NotificationRecorder(NotificationCenter& center,
-                                           std::initializer_list<std::string> names)
+                                           const std::vector<std::string>& names)
     : center_(center) {
     for (const auto& name : names) {
         tokens_.push_back(center_.addObserver(name, [this](const Notification& n) {
-            const std::lock_guard lock(mutex_);
-            seen_.push_back(n);
+            {
+                const std::lock_guard lock(mutex_);
+                notifications_.push_back(n);
+            }
+            if (onPost) {
+                onPost(n);
+            }
         }));
     }
 }
@@ -21,16 +26,15 @@ NotificationRecorder::~NotificationRecorder() {
 
 std::vector<Notification> NotificationRecorder::notifications() {
     const std::lock_guard lock(mutex_);
-    return seen_;
+    return notifications_;
 }
 
 std::vector<std::string> NotificationRecorder::names() {
-    const std::lock_guard lock(mutex_);
-    std::vector<std::string> names;
-    for (const auto& n : seen_) {
-        names.push_back(n.name);
+    std::vector<std::string> result;
+    for (const auto& n : notifications()) {
+        result.push_back(n.name);
     }
-    return names;
+    return result;
 }
 
 } // namespace velmora::test

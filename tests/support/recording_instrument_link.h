@@ -2,7 +2,7 @@
 
 // An instrument link that only counts what it is asked to do.
 
-#include "ui/instrument_link.h"
+#include "device/instrument_link.h"
 
 namespace velmora::test {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// The instrument session as the live reading panel drives it: Connect and Disconnect. The
-// session answers through the HIDDevice notifications, not through these calls.
+// What the window's Connect and Disconnect buttons need of the instrument session, so the window
+// depends on this and not on the HID layer beneath it. The session answers through the
+// HIDDevice notifications, not through these calls.
 
 namespace velmora {
 

@@ -1,0 +1,86 @@
+#include "app/cli/cli.h"
+#include "app/cli/live_readings.h"
+#include "device/hidapi/hidapi_manager.h"
+#include "device/sim/replayed_readings.h"
+#include "device/sim/simulated_instrument.h"
+#include "device/sim/simulated_session.h"
+
+#include <CLI/CLI.hpp>
+#include <limits>
+#include <memory>
+#include <ostream>
+
+namespace velmora::cli {
+
+namespace {
+
+// One session for every run, so what --simulate prints can be compared from run to run.
+constexpr std::uint32_t simulationSeed = 1;
+
+struct ReadOptions {
+    std::string replayFile;
+    std::optional<int> count;
+};
+
+std::unique_ptr<Locale> displayLocale(const Context& context) {
+    if (!context.decimalSeparator) {
+        return std::make_unique<EnvironmentLocale>();
+    }
+    const std::string& decimal = *context.decimalSeparator;
+    return std::make_unique<FixedLocale>(decimal, decimal == "," ? "." : ",");
+}
+
+} // namespace
+
+void addReadCommand(CLI::App& app, Context& context) {
+    auto options = std::make_shared<ReadOptions>();
+    auto* command = app.add_subcommand(
+        "read", "Connect to the instrument and print each live reading as the window shows it");
+    auto* simulate =
+        command
+            ->add_option("--simulate", options->replayFile,
+                         "Read from the simulated instrument instead of the USB one; with FILE, "
+                         "replay its readings (one R.I. a line, from the top again at the end)")
+            ->expected(0, 1)
+            ->type_name("[FILE]");
+    command->add_option("--count", options->count, "Stop after N readings (default: at Ctrl-C)")
+        ->type_name("N")
+        ->check(CLI::Range(1, std::numeric_limits<int>::max()));
+
+    command->callback([&context, options, simulate] {
+        SysLog log;
+        bool accessDenied = false;
+        HIDDeviceConnector::ManagerFactory managers;
+        if (simulate->count() == 0) {
+            managers = hidapi::hidapiManagerFactory(log, [&accessDenied] { accessDenied = true; });
+        } else if (options->replayFile.empty()) {
+            managers = sim::simulatedInstrumentFactory(
+                std::make_shared<sim::SimulatedSession>(simulationSeed));
+        } else {
+            std::vector<std::uint16_t> readings;
+            std::string error;
+            if (!sim::loadReadingFile(options->replayFile, readings, error)) {
+                *context.err << "velmora-cli: " << error << '\n';
+                context.exitCode = exitAlert;
+                return;
+            }
+            managers = sim::simulatedInstrumentFactory(
+                std::make_shared<sim::ReplayedReadings>(std::move(readings)));
+        }
+
+        const auto locale = displayLocale(context);
+        if (!printLiveReadings(managers, log, *locale, options->count, context.json,
+                               *context.out)) {
+            // Not an alert: the window shows none when Connect finds no instrument, its panel
+            // just stays Disconnected. A script still has to learn that no reading will come.
+            // A refused device was already explained by the HID layer.
+            if (!accessDenied) {
+                *context.err << "velmora-cli: no instrument connected: plug the Velmora "
+                                "refractometer in over USB, or try --simulate\n";
+            }
+            context.exitCode = exitAlert;
+        }
+    });
+}
+
+} // namespace velmora::cli

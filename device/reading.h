@@ -1,0 +1,23 @@
+#pragma once
+
+// The instrument's reading, from the bytes of an input report to the text in the live reading
+// field. Bytes 0 and 1 of the report are the R.I. in thousandths, little-endian.
+
+#include "foundation/locale.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+// "1.540" for 1540: always a full stop and three fraction digits, whatever the user's locale.
+// Any two bytes decode, 0.000 to 65.535.
+std::string decodeReading(std::uint8_t low, std::uint8_t high);
+
+// The reading as the user sees it: three fraction digits, the locale's decimal separator, and its
+// grouping separator from 1000 on. The text is read with a full stop as decimal point and must be
+// a number to its end; anything else shows as the empty string.
+std::string formatReadingForDisplay(std::string_view readingText, const Locale& locale);
+
+} // namespace velmora

@@ -1,0 +1,52 @@
+#include "device/reading.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+TEST(DecodeReading, ThousandthsBecomeThreeFractionDigitsAfterAFullStop) {
+    struct Case {
+        std::uint8_t low, high;
+        const char* text;
+    };
+    for (const auto& c :
+         {Case{0x04, 0x06, "1.540"}, Case{0xED, 0x03, "1.005"}, Case{0xE7, 0x03, "0.999"},
+          Case{0x00, 0x00, "0.000"}, Case{0x0A, 0x00, "0.010"}, Case{0x10, 0x27, "10.000"},
+          Case{0xFF, 0xFF, "65.535"}}) {
+        EXPECT_EQ(decodeReading(c.low, c.high), c.text) << c.text;
+    }
+}
+
+TEST(FormatReadingForDisplay, ThreeFractionDigitsWithTheLocalesSeparators) {
+    const FixedLocale english(".", ",");
+    const FixedLocale german(",", ".");
+    EXPECT_EQ(formatReadingForDisplay("1.540", english), "1.540");
+    EXPECT_EQ(formatReadingForDisplay("1.540", german), "1,540");
+    EXPECT_EQ(formatReadingForDisplay("65.535", german), "65,535");
+    EXPECT_EQ(formatReadingForDisplay("1.5", english), "1.500");
+    EXPECT_EQ(formatReadingForDisplay("0", english), "0.000");
+    EXPECT_EQ(formatReadingForDisplay("-1.25", german), "-1,250");
+    EXPECT_EQ(formatReadingForDisplay("1.23456", english), "1.235");
+    // Grouping starts at 1000, also when rounding carries into it.
+    EXPECT_EQ(formatReadingForDisplay("999.999", english), "999.999");
+    EXPECT_EQ(formatReadingForDisplay("999.9996", english), "1,000.000");
+    EXPECT_EQ(formatReadingForDisplay("1540", german), "1.540,000");
+    EXPECT_EQ(formatReadingForDisplay("-1234567.5", english), "-1,234,567.500");
+    // A locale without a decimal separator falls back to the full stop; one without grouping
+    // groups nothing.
+    EXPECT_EQ(formatReadingForDisplay("1234.5", FixedLocale("", "")), "1234.500");
+    EXPECT_EQ(formatReadingForDisplay("1234.5", FixedLocale(",", "\xE2\x80\xAF")), "1\xE2\x80\xAF"
+                                                                                   "234,500");
+}
+
+TEST(FormatReadingForDisplay, TextThatIsNotANumberToItsEndShowsEmpty) {
+    const FixedLocale english;
+    for (const char* text : {"", " ", "abc", "1.5x", " 1.5", "1.5 ", "1,540", "+1.5", "--1", "nan",
+                             "inf", "1e400", "."}) {
+        EXPECT_EQ(formatReadingForDisplay(text, english), "") << '"' << text << '"';
+    }
+}
+
+} // namespace
+} // namespace velmora::test
