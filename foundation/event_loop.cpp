@@ -67,6 +67,11 @@ void EventLoop::stop() {
     wake();
 }
 
+void EventLoop::runPending() {
+    while (runOneTask()) {
+    }
+}
+
 bool EventLoop::runOneTask() {
     Task task;
     {

@@ -32,6 +32,9 @@ public:
     void run();
     // Safe from any thread and from a signal handler (Ctrl-C).
     void stop();
+    // Runs the queued tasks, and those they queue, without waiting and without timers: a
+    // command that drives the window runs the window's queued work after each gesture so.
+    void runPending();
 
 private:
     using Clock = std::chrono::steady_clock;

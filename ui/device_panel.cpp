@@ -1,3 +1,5 @@
+#include "device/device_notifications.h"
+#include "device/reading.h"
 #include "ui/system_colors.h"
 #include "ui/view_controller.h"
 
@@ -17,6 +19,60 @@ void ViewController::applyDevicePanelState(DevicePanelState state) {
     }
     btn_connected.setEnabled(!connected);
     btn_disconnected.setEnabled(connected);
+}
+
+void ViewController::observeInstrument() {
+    NotificationCenter& center = environment_.notificationCenter;
+    observations_.push_back(center.addObserver(
+        HIDDeviceConnected, [this](const Notification& n) { usbConnectedWithNotification(n); }));
+    observations_.push_back(
+        center.addObserver(HIDDeviceDisconnected,
+                           [this](const Notification& n) { usbDisconnectedWithNotification(n); }));
+    observations_.push_back(center.addObserver(
+        HIDDeviceDataReceived, [this](const Notification& n) { hidReadDataWithNotification(n); }));
+}
+
+void ViewController::usbConnectedWithNotification(const Notification& notification) {
+    const Value* device = notification.object["device"];
+    if (device == nullptr || device->asDictionary() == nullptr) {
+        return;
+    }
+    // The flag changes now, the panel after the current event: the rest of a Connect action
+    // already sees the instrument as connected.
+    queueDevicePanelState(DevicePanelState::Connected);
+    isUSBStatus = true;
+}
+
+void ViewController::usbDisconnectedWithNotification(const Notification&) {
+    queueDevicePanelState(DevicePanelState::Disconnected);
+    isUSBStatus = false;
+}
+
+void ViewController::hidReadDataWithNotification(const Notification& notification) {
+    const Value* data = notification.object["data"];
+    if (data == nullptr || data->asString() == nullptr) {
+        return;
+    }
+    usb_device_reading.setText(formatReadingForDisplay(*data->asString(), environment_.locale));
+}
+
+void ViewController::btn_connect_tap(Button&) {
+    environment_.instrumentLink.connectDataToDevice();
+    writeModeAndQueueReset();
+}
+
+void ViewController::btn_disConnect_tap(Button&) {
+    environment_.instrumentLink.disconnectDataToDevice();
+    btn_connected.setEnabled(true);
+    writeModeAndQueueReset();
+}
+
+void ViewController::writeModeAndQueueReset() {
+    environment_.standardOutput << mode << std::endl;
+    // In the reading tab a new session starts from an empty form; the dictionary keeps its search.
+    if (mode != 1) {
+        environment_.runLoop.post([this] { resetSearchForm(); });
+    }
 }
 
 } // namespace velmora

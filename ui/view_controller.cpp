@@ -14,6 +14,12 @@ ViewController::ViewController(MainWindow& window, ViewControllerEnvironment env
     connectActions();
 }
 
+ViewController::~ViewController() {
+    for (const auto token : observations_) {
+        environment_.notificationCenter.removeObserver(token);
+    }
+}
+
 void ViewController::connectActions() {
     for (Button* navigation : {&btn_RIReading, &bvtn_dictionary, &btn_tutorial, &btn_contactUs}) {
         navigation->setAction([this](Button& sender) { btn_navigation_tap(sender); });
@@ -27,6 +33,8 @@ void ViewController::connectActions() {
     btn_reset.setAction([this](Button& sender) { btn_reset_tap(sender); });
     btn_color.setAction([this](PopUpButton& sender) { btn_onChangeColor_tap(sender); });
     btn_stonesList.setAction([this](PopUpButton& sender) { btn_stoneListChange(sender); });
+    btn_connected.setAction([this](Button& sender) { btn_connect_tap(sender); });
+    btn_disconnected.setAction([this](Button& sender) { btn_disConnect_tap(sender); });
 }
 
 void ViewController::viewDidLoad() {
@@ -40,6 +48,7 @@ void ViewController::viewDidLoad() {
     styleViews();
     selectTab(0);
     loadStones();
+    observeInstrument();
 }
 
 void ViewController::styleViews() {

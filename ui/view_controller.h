@@ -22,6 +22,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -50,6 +51,10 @@ public:
 
     // Connects the window's controls to their actions; the fields take their starting values.
     ViewController(MainWindow& window, ViewControllerEnvironment environment);
+    // Stops observing the instrument's notifications.
+    ~ViewController() override;
+    ViewController(const ViewController&) = delete;
+    ViewController& operator=(const ViewController&) = delete;
 
     const ViewControllerState& state() const { return *this; }
 
@@ -91,6 +96,11 @@ public:
     // The live reading panel (device_panel.cpp)
     void applyDevicePanelState(DevicePanelState state);
     void queueDevicePanelState(DevicePanelState state);
+    void usbConnectedWithNotification(const Notification& notification);
+    void usbDisconnectedWithNotification(const Notification& notification);
+    void hidReadDataWithNotification(const Notification& notification);
+    void btn_connect_tap(Button& sender);
+    void btn_disConnect_tap(Button& sender);
 
 private:
     enum class CheckBoxes { Disable, LeaveEnabled };
@@ -104,6 +114,9 @@ private:
     void clearSwatch();
     bool isListed(int row) const;
 
+    void observeInstrument();
+    void writeModeAndQueueReset();
+
     void showAlert(const std::string& message, const std::string& informative, AlertStyle style);
     std::string currentDecimalSeparator() const;
     bool isNumberOnly(const std::string& text) const;
@@ -114,6 +127,7 @@ private:
 
     MainWindow& window_;
     ViewControllerEnvironment environment_;
+    std::vector<NotificationCenter::Token> observations_;
 };
 
 // Empties an entry, or the field editor holding its text while it is edited.

@@ -6,7 +6,7 @@
 // screens are out of reach from here.
 
 #include "app/cli/cli.h"
-#include "app/cli/command_run_loop.h"
+#include "foundation/event_loop.h"
 #include "ui/main_window.h"
 #include "ui/view_controller.h"
 
@@ -52,7 +52,7 @@ private:
         void disconnectDataToDevice() override {}
     };
 
-    CommandRunLoop runLoop_;
+    EventLoop runLoop_;
     PrintedAlerts alerts_;
     std::unique_ptr<Locale> locale_;
     NoScreens screens_;

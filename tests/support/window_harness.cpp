@@ -17,8 +17,13 @@ referenceFile(const TempDir& dir, const std::optional<std::vector<std::string>>&
 
 WindowHarness::WindowHarness(WindowSetup setup)
     : locale(setup.decimalSeparator),
+      connector(setup.instrumentManagers
+                    ? std::make_unique<HIDDeviceConnector>(*setup.instrumentManagers, runLoop,
+                                                           notificationCenter, log)
+                    : nullptr),
       controller(window, {runLoop, notificationCenter, alertPresenter, locale,
-                          referenceFile(dir, setup.rows), standardOutput, screens, instrument}) {
+                          referenceFile(dir, setup.rows), standardOutput, screens,
+                          connector ? static_cast<InstrumentLink&>(*connector) : instrument}) {
     if (setup.loadView) {
         controller.viewDidLoad();
         runQueued();

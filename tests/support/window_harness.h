@@ -5,15 +5,18 @@
 // (viewDidLoad, then the queued work) and drives it by gestures; after each gesture the work the
 // gesture queued has run, as it would before the user's next event.
 
+#include "device/hid_device_connector.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_instrument_link.h"
+#include "tests/support/recording_log.h"
 #include "tests/support/recording_screens.h"
 #include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 #include "ui/main_window.h"
 #include "ui/view_controller.h"
 
+#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -29,6 +32,9 @@ struct WindowSetup {
     std::string decimalSeparator = ".";
     // False: the controller is made but its view not loaded.
     bool loadView = true;
+    // Where the instrument is: nothing, a link that only counts Connect and Disconnect; else a
+    // real session over these HID managers (a fake, or the simulated instrument).
+    std::optional<HIDDeviceConnector::ManagerFactory> instrumentManagers = std::nullopt;
 };
 
 class WindowHarness {
@@ -59,6 +65,8 @@ public:
     std::ostringstream standardOutput;
     RecordingScreens screens;
     RecordingInstrumentLink instrument;
+    RecordingLog log;
+    std::unique_ptr<HIDDeviceConnector> connector; // with WindowSetup::instrumentManagers
     MainWindow window;
     ViewController controller;
 };
