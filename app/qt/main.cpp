@@ -72,8 +72,8 @@ int run(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("Velmora");
     QApplication::setApplicationVersion(VELMORA_VERSION);
-    QGuiApplication::setDesktopFileName("io.velmora.Desktop");
-    QApplication::setWindowIcon(QIcon::fromTheme("io.velmora.Desktop"));
+    QGuiApplication::setDesktopFileName(VELMORA_APP_ID);
+    QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID));
     useLightAppearance(application);
 
     QtRunLoop runLoop(&application);

@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -115,8 +116,13 @@ private:
         }
     }
 
+    // As the user clicks: the button takes the keyboard, which ends the editing of an entry.
     void click(const char* name) {
-        QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
+        auto* button = child<QAbstractButton>(name);
+        // A check box answers on its box and title, not on the rest of its width.
+        const QPoint where = qobject_cast<QCheckBox*>(button) ? QPoint(7, button->height() / 2)
+                                                              : button->rect().center();
+        QTest::mouseClick(button, Qt::LeftButton, {}, where);
         settle();
     }
 
