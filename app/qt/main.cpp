@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QScreen>
 #include <QStandardPaths>
 #include <iostream>
 #include <random>
@@ -96,6 +97,10 @@ int run(int argc, char** argv) {
                             workspace, containerInDataFolder(), strings, log, Bundle::main()});
     if (options.measureStartup) {
         reportStartupThenQuit(shell.window(), started, std::cout);
+    }
+    // A small screen gets a window that fits it.
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        shell.window().resize(shell.window().size().boundedTo(screen->availableSize()));
     }
     shell.window().show();
     return QApplication::exec();

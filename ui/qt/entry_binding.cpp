@@ -56,6 +56,9 @@ void EntryBinding::apply(Property property) {
         // Writing back what was just typed would move the cursor to the end.
         if (const QString text = QString::fromStdString(field_.text()); widget_->text() != text) {
             widget_->setText(text);
+            if (widget_->isReadOnly()) {
+                widget_->home(false); // a value too long for its field shows its beginning
+            }
         }
         break;
     case Property::Editable:

@@ -1,6 +1,7 @@
 #include "ui/qt/message_box_alert_presenter.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,6 +30,13 @@ std::size_t MessageBoxAlertPresenter::runModal(const std::string& message,
     box.setIcon(iconOf(style));
     box.setText(QString::fromStdString(message));
     box.setInformativeText(QString::fromStdString(informative));
+    // Room for a sentence on one or two lines, and no blank line for an empty message.
+    box.setStyleSheet("QLabel#qt_msgbox_informativelabel { min-width: 300px; }");
+    if (message.empty()) {
+        if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+            label->hide();
+        }
+    }
     std::vector<QPushButton*> pushButtons;
     for (const std::string& title : buttons) {
         // The first is the default; a later one, such as Cancel, is what Escape means.
