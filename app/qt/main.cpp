@@ -70,6 +70,13 @@ int run(int argc, char** argv) {
         return *status;
     }
 
+    SysLog log(options.verbose);
+    MessageBoxAlertPresenter alerts;
+    const auto managers = instrumentManagers(options, log, alerts);
+    if (!managers) {
+        return 1;
+    }
+
     QApplication application(argc, argv);
     QApplication::setApplicationName("Velmora");
     QApplication::setApplicationVersion(VELMORA_VERSION);
@@ -78,12 +85,6 @@ int run(int argc, char** argv) {
     useLightAppearance(application);
 
     QtRunLoop runLoop(&application);
-    SysLog log(options.verbose);
-    MessageBoxAlertPresenter alerts;
-    const auto managers = instrumentManagers(options, log, alerts);
-    if (!managers) {
-        return 1;
-    }
     HIDDeviceConnector::setUpSharedInstance(*managers, runLoop, log);
 
     QtSystemLocale locale;

@@ -1,6 +1,7 @@
 #include "app/qt/options.h"
 
 #include <CLI/CLI.hpp>
+#include <iostream>
 
 namespace velmora::qt {
 
@@ -30,6 +31,14 @@ std::optional<int> parseOptions(int argc, char** argv, Options& options) {
     } catch (const CLI::ParseError& e) {
         app.exit(e);
         return 2;
+    }
+    // Qt's options have one dash (-platform offscreen); a double dash is a mistyped one of ours.
+    for (const std::string& extra : app.remaining()) {
+        if (extra.rfind("--", 0) == 0) {
+            std::cerr << "velmora: unknown option " << extra
+                      << "\nRun with --help for more information.\n";
+            return 2;
+        }
     }
     if (simulate->count() > 0) {
         options.simulate = replayFile;
