@@ -5,12 +5,8 @@
 
 namespace velmora::qt {
 
-ApplicationShell::ApplicationShell(ShellServices s)
-    : window_(elements_), screens_(s.workspace, s.bundle, &window_),
-      controller_(elements_, {s.runLoop, s.notificationCenter, s.alertPresenter, s.locale,
-                              s.referenceFile, s.standardOutput, screens_, s.hidDeviceConnector}),
-      delegate_(s.hidDeviceConnector, std::move(s.makeContainer), s.alertPresenter,
-                s.localizedStrings, s.log) {
+ApplicationShell::ApplicationShell(ViewControllerEnvironment environment, AppDelegate& delegate)
+    : window_(elements_), controller_(elements_, std::move(environment)), delegate_(delegate) {
     controller_.viewDidLoad();
     QObject::connect(window_.saveAction(), &QAction::triggered, &window_,
                      [this] { delegate_.saveAction(); });

@@ -3,15 +3,17 @@
 #include "app/qt/contact_us_dialog.h"
 #include "app/qt/tutorial_dialog.h"
 
+#include <QApplication>
+
 namespace velmora::qt {
 
 void DialogScreenPresenter::presentTutorialScreen() {
-    TutorialDialog dialog(bundle_, window_);
+    TutorialDialog dialog(bundle_, QApplication::activeWindow());
     dialog.exec();
 }
 
 void DialogScreenPresenter::presentContactScreen() {
-    ContactUsDialog dialog(workspace_, window_);
+    ContactUsDialog dialog(workspace_, QApplication::activeWindow());
     dialog.exec();
 }
 

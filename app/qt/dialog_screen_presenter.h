@@ -1,21 +1,19 @@
 #pragma once
 
-// The tutorial and contact screens as modal dialogs over the main window, each made anew for
+// The tutorial and contact screens as modal dialogs over the active window, each made anew for
 // its opening and gone when it closes.
 
 #include "app/workspace.h"
 #include "foundation/bundle.h"
 #include "ui/screen_presenter.h"
 
-class QWidget;
-
 namespace velmora::qt {
 
 class DialogScreenPresenter final : public ScreenPresenter {
 public:
-    // The tutorial is looked up in bundle; the dialogs sit over window.
-    DialogScreenPresenter(Workspace& workspace, const Bundle& bundle, QWidget* window)
-        : workspace_(workspace), bundle_(bundle), window_(window) {}
+    // The tutorial is looked up in bundle.
+    DialogScreenPresenter(Workspace& workspace, const Bundle& bundle)
+        : workspace_(workspace), bundle_(bundle) {}
 
     void presentTutorialScreen() override;
     void presentContactScreen() override;
@@ -23,7 +21,6 @@ public:
 private:
     Workspace& workspace_;
     const Bundle& bundle_;
-    QWidget* window_;
 };
 
 } // namespace velmora::qt

@@ -2,6 +2,7 @@
 
 #include "app/qt/application_shell.h"
 #include "app/qt/desktop_workspace.h"
+#include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/qt/options.h"
 #include "app/qt/qt_localized_strings.h"
@@ -89,13 +90,16 @@ int run(int argc, char** argv) {
 
     QtSystemLocale locale;
     DesktopWorkspace workspace;
+    DialogScreenPresenter screens(workspace, Bundle::main());
+    HIDDeviceConnector& connector = HIDDeviceConnector::sharedInstance();
     const QtLocalizedStrings strings("AppDelegate");
+    AppDelegate delegate(connector, containerInDataFolder(), alerts, strings, log);
     const auto referenceFile = options.reference
                                    ? std::optional<std::filesystem::path>(*options.reference)
                                    : referenceFilePath(Bundle::main());
     ApplicationShell shell({runLoop, NotificationCenter::defaultCenter(), alerts, locale,
-                            referenceFile, std::cout, HIDDeviceConnector::sharedInstance(),
-                            workspace, containerInDataFolder(), strings, log, Bundle::main()});
+                            referenceFile, std::cout, screens, connector},
+                           delegate);
     if (options.measureStartup) {
         reportStartupThenQuit(shell.window(), started, std::cout);
     }

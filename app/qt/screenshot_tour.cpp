@@ -3,6 +3,7 @@
 // them. It runs offscreen unless QT_QPA_PLATFORM says otherwise.
 
 #include "app/qt/application_shell.h"
+#include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
@@ -210,19 +211,22 @@ int run(int argc, char** argv) {
     // The same notation on every machine, so the pictures match the tutorial's text.
     const FixedLocale locale(".", ",");
     NoWorkspace workspace;
+    DialogScreenPresenter screens(workspace, Bundle::main());
     QTemporaryDir data;
     const struct English final : LocalizedStrings {
         std::string localizedString(const std::string& key) const override { return key; }
     } strings;
+    AppDelegate delegate(
+        instrument,
+        [&data] {
+            return std::make_unique<SqliteStore>(
+                std::filesystem::path(data.path().toStdU16String()) / "Velmora.sqlite",
+                Bundle::main().pathForResource("Velmora", "sql"));
+        },
+        alerts, strings, log);
     ApplicationShell shell({runLoop, center, alerts, locale, referenceFilePath(Bundle::main()),
-                            std::cerr, instrument, workspace,
-                            [&data] {
-                                return std::make_unique<SqliteStore>(
-                                    std::filesystem::path(data.path().toStdU16String()) /
-                                        "Velmora.sqlite",
-                                    Bundle::main().pathForResource("Velmora", "sql"));
-                            },
-                            strings, log, Bundle::main()});
+                            std::cerr, screens, instrument},
+                           delegate);
     const bool done = Tour(shell.window(), out).run();
     instrument.disconnectDataToDevice();
     return done && alerts.count == 0 ? 0 : 1;

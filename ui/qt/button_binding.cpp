@@ -22,9 +22,9 @@ Qt::CheckState checkState(ButtonState state) {
 } // namespace
 
 ButtonBinding::ButtonBinding(Button& button, QAbstractButton* widget)
-    : ViewBinding(button, widget), button_(button), widget_(widget) {
+    : WidgetBinding(button, widget) {
     connect(widget, &QAbstractButton::clicked, this, [this] {
-        button_.performClick();
+        element_.performClick();
         // The element may have kept its state (a disabled one ignores the click): show its own.
         apply(Property::State);
     });
@@ -37,11 +37,11 @@ void ButtonBinding::apply(Property property) {
     switch (property) {
     case Property::State:
         if (auto* checkBox = qobject_cast<QCheckBox*>(widget_)) {
-            checkBox->setCheckState(checkState(button_.state()));
+            checkBox->setCheckState(checkState(element_.state()));
         }
         break;
     case Property::AttributedTitle: {
-        const AttributedTitle& title = button_.attributedTitle();
+        const AttributedTitle& title = element_.attributedTitle();
         if (title.text.empty()) {
             break; // the interface file's title stands
         }

@@ -10,16 +10,12 @@
 
 namespace velmora::qt {
 
-class ButtonBinding final : public ViewBinding {
+class ButtonBinding final : public WidgetBinding<Button, QAbstractButton> {
 public:
     ButtonBinding(Button& button, QAbstractButton* widget);
 
 protected:
     void apply(Property property) override;
-
-private:
-    Button& button_;
-    QPointer<QAbstractButton> widget_;
 };
 
 } // namespace velmora::qt

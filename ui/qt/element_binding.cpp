@@ -2,12 +2,12 @@
 
 namespace velmora::qt {
 
-ElementBinding::ElementBinding(ViewElement& element) : element_(element) {
-    element_.setObserver([this](Property property) { apply(property); });
+ElementBinding::ElementBinding(ViewElement& element) : observed_(element) {
+    observed_.setObserver([this](Property property) { apply(property); });
 }
 
 ElementBinding::~ElementBinding() {
-    element_.setObserver({});
+    observed_.setObserver({});
 }
 
 void ElementBinding::refresh() {

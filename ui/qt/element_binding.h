@@ -25,7 +25,7 @@ protected:
     virtual void apply(Property property) = 0;
 
 private:
-    ViewElement& element_;
+    ViewElement& observed_;
 };
 
 } // namespace velmora::qt

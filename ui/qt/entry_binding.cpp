@@ -14,21 +14,21 @@ bool isTheUsersMove(Qt::FocusReason reason) {
 } // namespace
 
 EntryBinding::EntryBinding(TextField& field, QLineEdit* widget, MainWindow& window)
-    : ViewBinding(field, widget), field_(field), widget_(widget), window_(window) {
+    : WidgetBinding(field, widget), window_(window) {
     // textEdited, unlike textChanged, comes from the user only.
     connect(widget, &QLineEdit::textEdited, this, &EntryBinding::typed);
     connect(widget, &QLineEdit::returnPressed, this, [this] {
         // Return ends the editing; the field keeps the keyboard for the next value.
         window_.makeFirstResponder(nullptr);
-        window_.makeFirstResponder(&field_);
+        window_.makeFirstResponder(&element_);
     });
     widget->installEventFilter(this);
 }
 
 void EntryBinding::typed(const QString& text) {
-    field_.setText(text.toStdString());
-    if (TextFieldDelegate* delegate = field_.delegate()) {
-        delegate->controlTextDidChange(&field_);
+    element_.setText(text.toStdString());
+    if (TextFieldDelegate* delegate = element_.delegate()) {
+        delegate->controlTextDidChange(&element_);
     }
 }
 
@@ -39,8 +39,8 @@ bool EntryBinding::eventFilter(QObject*, QEvent* event) {
             return false;
         }
         if (focus->gotFocus()) {
-            window_.makeFirstResponder(&field_);
-        } else if (window_.firstResponder() == &field_) {
+            window_.makeFirstResponder(&element_);
+        } else if (window_.firstResponder() == &element_) {
             window_.makeFirstResponder(nullptr);
         }
     }
@@ -54,7 +54,7 @@ void EntryBinding::apply(Property property) {
     switch (property) {
     case Property::Text:
         // Writing back what was just typed would move the cursor to the end.
-        if (const QString text = QString::fromStdString(field_.text()); widget_->text() != text) {
+        if (const QString text = QString::fromStdString(element_.text()); widget_->text() != text) {
             widget_->setText(text);
             if (widget_->isReadOnly()) {
                 widget_->home(false); // a value too long for its field shows its beginning
@@ -62,7 +62,7 @@ void EntryBinding::apply(Property property) {
         }
         break;
     case Property::Editable:
-        widget_->setReadOnly(!field_.isEditable());
+        widget_->setReadOnly(!element_.isEditable());
         // The style sheet tells read-only fields apart; it looks again only when asked.
         widget_->style()->unpolish(widget_);
         widget_->style()->polish(widget_);

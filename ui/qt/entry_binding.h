@@ -15,7 +15,7 @@
 
 namespace velmora::qt {
 
-class EntryBinding final : public ViewBinding {
+class EntryBinding final : public WidgetBinding<TextField, QLineEdit> {
 public:
     EntryBinding(TextField& field, QLineEdit* widget, MainWindow& window);
 
@@ -26,8 +26,6 @@ protected:
 private:
     void typed(const QString& text);
 
-    TextField& field_;
-    QPointer<QLineEdit> widget_;
     MainWindow& window_;
 };
 

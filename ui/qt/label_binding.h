@@ -9,16 +9,12 @@
 
 namespace velmora::qt {
 
-class LabelBinding final : public ViewBinding {
+class LabelBinding final : public WidgetBinding<TextField, QLabel> {
 public:
     LabelBinding(TextField& field, QLabel* widget);
 
 protected:
     void apply(Property property) override;
-
-private:
-    TextField& field_;
-    QPointer<QLabel> widget_;
 };
 
 } // namespace velmora::qt

@@ -5,18 +5,17 @@
 
 namespace velmora::qt {
 
-PopUpBinding::PopUpBinding(PopUpButton& popUp, QComboBox* widget)
-    : ViewBinding(popUp, widget), popUp_(popUp), widget_(widget) {
+PopUpBinding::PopUpBinding(PopUpButton& popUp, QComboBox* widget) : WidgetBinding(popUp, widget) {
     // activated, unlike currentIndexChanged, comes from the user only.
     connect(widget, &QComboBox::activated, this, [this](int index) {
-        popUp_.pickItem(index);
+        element_.pickItem(index);
         showSelection(); // a disabled element ignores the pick
     });
 }
 
 void PopUpBinding::showSelection() {
     const QSignalBlocker quiet(widget_);
-    widget_->setCurrentIndex(popUp_.indexOfSelectedItem());
+    widget_->setCurrentIndex(element_.indexOfSelectedItem());
 }
 
 void PopUpBinding::apply(Property property) {
@@ -26,8 +25,8 @@ void PopUpBinding::apply(Property property) {
     switch (property) {
     case Property::Items: {
         QStringList titles;
-        titles.reserve(popUp_.numberOfItems());
-        for (const std::string& title : popUp_.itemTitles()) {
+        titles.reserve(element_.numberOfItems());
+        for (const std::string& title : element_.itemTitles()) {
             titles << QString::fromStdString(title);
         }
         const QSignalBlocker quiet(widget_);

@@ -10,7 +10,7 @@
 
 namespace velmora::qt {
 
-class PopUpBinding final : public ViewBinding {
+class PopUpBinding final : public WidgetBinding<PopUpButton, QComboBox> {
 public:
     PopUpBinding(PopUpButton& popUp, QComboBox* widget);
 
@@ -19,9 +19,6 @@ protected:
 
 private:
     void showSelection();
-
-    PopUpButton& popUp_;
-    QPointer<QComboBox> widget_;
 };
 
 } // namespace velmora::qt

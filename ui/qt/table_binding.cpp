@@ -6,7 +6,7 @@
 namespace velmora::qt {
 
 TableBinding::TableBinding(TableView& table, QTableView* widget)
-    : ViewBinding(table, widget), table_(table), widget_(widget),
+    : WidgetBinding(table, widget),
       model_(new TableViewModel(table, widget->property("columnTitles").toStringList(), this)) {
     widget->setModel(model_);
     connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -19,7 +19,7 @@ void TableBinding::userSelected() {
     }
     const QModelIndexList rows = widget_->selectionModel()->selectedRows();
     if (!rows.isEmpty()) {
-        table_.clickRow(rows.front().row());
+        element_.clickRow(rows.front().row());
     }
     // What the element selected, which is not the click when its delegate refused it.
     showSelection();
@@ -28,7 +28,7 @@ void TableBinding::userSelected() {
 void TableBinding::showSelection() {
     showing_ = true;
     QItemSelectionModel* selection = widget_->selectionModel();
-    const int row = table_.selectedRow();
+    const int row = element_.selectedRow();
     if (row == TableView::noSelection) {
         selection->clear();
     } else {
@@ -47,9 +47,9 @@ void TableBinding::apply(Property property) {
     switch (property) {
     case Property::Rows:
         model_->reload();
-        if (table_.numberOfRows() > 0) {
+        if (element_.numberOfRows() > 0) {
             // Every row is as high as the first.
-            const int height = qRound(table_.heightOfRow(0));
+            const int height = qRound(element_.heightOfRow(0));
             widget_->verticalHeader()->setMinimumSectionSize(height);
             widget_->verticalHeader()->setDefaultSectionSize(height);
         }

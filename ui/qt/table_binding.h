@@ -11,7 +11,7 @@
 
 namespace velmora::qt {
 
-class TableBinding final : public ViewBinding {
+class TableBinding final : public WidgetBinding<TableView, QTableView> {
 public:
     TableBinding(TableView& table, QTableView* widget);
 
@@ -22,8 +22,6 @@ private:
     void userSelected();
     void showSelection();
 
-    TableView& table_;
-    QPointer<QTableView> widget_;
     TableViewModel* model_;
     bool showing_ = false;
 };

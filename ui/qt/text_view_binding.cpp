@@ -3,13 +3,13 @@
 namespace velmora::qt {
 
 TextViewBinding::TextViewBinding(TextView& view, QPlainTextEdit* widget)
-    : ViewBinding(view, widget), view_(view), widget_(widget) {
+    : WidgetBinding(view, widget) {
     widget->setReadOnly(true);
 }
 
 void TextViewBinding::apply(Property property) {
     if (widget_ && property == Property::Text) {
-        widget_->setPlainText(QString::fromStdString(view_.text()));
+        widget_->setPlainText(QString::fromStdString(element_.text()));
     } else {
         ViewBinding::apply(property);
     }

@@ -9,16 +9,12 @@
 
 namespace velmora::qt {
 
-class TextViewBinding final : public ViewBinding {
+class TextViewBinding final : public WidgetBinding<TextView, QPlainTextEdit> {
 public:
     TextViewBinding(TextView& view, QPlainTextEdit* widget);
 
 protected:
     void apply(Property property) override;
-
-private:
-    TextView& view_;
-    QPointer<QPlainTextEdit> widget_;
 };
 
 } // namespace velmora::qt

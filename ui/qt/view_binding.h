@@ -23,4 +23,16 @@ private:
     QPointer<QWidget> widget_;
 };
 
+// One kind of element on one kind of widget: the view's properties as above, the element's own
+// in the derived binding's apply.
+template <class Element, class Widget> class WidgetBinding : public ViewBinding {
+public:
+    WidgetBinding(Element& element, Widget* widget)
+        : ViewBinding(element, widget), element_(element), widget_(widget) {}
+
+protected:
+    Element& element_;
+    QPointer<Widget> widget_;
+};
+
 } // namespace velmora::qt

@@ -48,7 +48,7 @@ ShellTest::ShellTest()
     : instrument(sim::simulatedInstrumentFactory(std::make_shared<sim::ReplayedReadings>(
                      std::vector<std::uint16_t>{1544, 1545})),
                  runLoop, center, log),
-      bundle({dir.path()}) {}
+      bundle({dir.path()}), screens(workspace, bundle) {}
 
 ShellTest::~ShellTest() = default;
 
@@ -56,14 +56,18 @@ void ShellTest::open(ShellSetup setup) {
     if (setup.withTutorial) {
         writeTutorial(dir.path() / "Tutorial.pdf");
     }
-    shell_ = std::make_unique<qt::ApplicationShell>(qt::ShellServices{
-        runLoop, center, alerts, locale, dir.write("AllStoneNew.csv", referenceText(referenceRows)),
-        standardOutput, instrument, workspace,
+    delegate_ = std::make_unique<AppDelegate>(
+        instrument,
         [this, store = setup.store] {
             ++containersMade;
             return std::make_unique<MemoryStore>(store);
         },
-        english, log, bundle});
+        alerts, english, log);
+    shell_ = std::make_unique<qt::ApplicationShell>(
+        ViewControllerEnvironment{runLoop, center, alerts, locale,
+                                  dir.write("AllStoneNew.csv", referenceText(referenceRows)),
+                                  standardOutput, screens, instrument},
+        *delegate_);
     tableModelTester_ = std::make_unique<QAbstractItemModelTester>(
         widget<QTableView>("tableView")->model(),
         QAbstractItemModelTester::FailureReportingMode::Fatal);

@@ -6,6 +6,7 @@
 // presses on the widgets; after each, the work it queued has run.
 
 #include "app/qt/application_shell.h"
+#include "app/qt/dialog_screen_presenter.h"
 #include "tests/support/answering_alert_presenter.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/memory_store.h"
@@ -75,9 +76,11 @@ protected:
     std::ostringstream standardOutput;
     RecordingWorkspace workspace;
     Bundle bundle;
+    qt::DialogScreenPresenter screens;
     int containersMade = 0;
 
 private:
+    std::unique_ptr<AppDelegate> delegate_;
     std::unique_ptr<qt::ApplicationShell> shell_;
     std::unique_ptr<QAbstractItemModelTester> tableModelTester_;
 };
