@@ -81,17 +81,12 @@ bool FakeHidWatcher::matches(const FakeHidDeviceSpec& spec) const {
     });
 }
 
-void FakeHidWatcher::queue(std::function<void()> task) {
-    queue_.push_back(std::move(task));
-    wake_.notify_all();
-}
-
 void FakeHidWatcher::plug(const FakeHidDeviceSpec& spec) {
     const std::lock_guard lock(mutex_);
     const auto device = std::make_shared<Device>(*this, spec);
     plugged_.push_back(device);
     if (running_ && matches(spec)) {
-        queue([this, device] { attached_(device); });
+        deliveries_.deliver([this, device] { attached_(device); });
     }
 }
 
@@ -105,7 +100,7 @@ void FakeHidWatcher::unplug(const std::string& path) {
     const auto device = *found;
     plugged_.erase(found);
     if (running_ && matches(device->spec())) {
-        queue([this, device] { removed_(device); });
+        deliveries_.deliver([this, device] { removed_(device); });
     }
 }
 
@@ -114,47 +109,29 @@ void FakeHidWatcher::sendInputReport(const std::string& path, Bytes report) {
     const auto found =
         std::ranges::find(plugged_, path, [](const auto& d) { return d->spec().path; });
     if (found != plugged_.end()) {
-        queue([device = *found, report = std::move(report)] { device->deliver(report); });
+        deliveries_.deliver(
+            [device = *found, report = std::move(report)] { device->deliver(report); });
     }
-}
-
-void FakeHidWatcher::later(std::function<void()> step) {
-    const std::lock_guard lock(mutex_);
-    later_.push_back(std::move(step));
-    wake_.notify_all();
 }
 
 void FakeHidWatcher::run() {
-    std::unique_lock lock(mutex_);
-    running_ = true;
-    // The initial drain.
-    for (const auto& device : plugged_) {
-        if (matches(device->spec())) {
-            queue([this, device] { attached_(device); });
-        }
-    }
-    while (true) {
-        auto& from = !queue_.empty() ? queue_ : later_;
-        if (from.empty()) {
-            if (stopped_) {
-                running_ = false;
-                return;
+    {
+        const std::lock_guard lock(mutex_);
+        running_ = true;
+        // The initial drain.
+        for (const auto& device : plugged_) {
+            if (matches(device->spec())) {
+                deliveries_.deliver([this, device] { attached_(device); });
             }
-            wake_.wait(lock);
-            continue;
         }
-        const auto task = std::move(from.front());
-        from.pop_front();
-        lock.unlock();
-        task();
-        lock.lock();
     }
+    deliveries_.run();
+    const std::lock_guard lock(mutex_);
+    running_ = false;
 }
 
 void FakeHidWatcher::stop() {
-    const std::lock_guard lock(mutex_);
-    stopped_ = true;
-    wake_.notify_all();
+    deliveries_.stop();
 }
 
 } // namespace velmora::test

@@ -2,17 +2,13 @@
 
 // Scripted HID devices for the HID watchers. The test plugs and unplugs devices and has them send
 // input reports; every output report a device is sent is recorded. run() first reports the
-// matching devices already plugged in, then delivers what is queued, in order, and runs each of
-// the test's later() steps once everything queued before it has been delivered; it returns when
-// stop() has come and nothing is left, so a test that calls stop() first runs its whole script on
-// its own thread.
+// matching devices already plugged in; then it and later() are those of ScriptedDeliveries.
 
 #include "device/hid_watcher.h"
 #include "foundation/value.h"
+#include "tests/support/scripted_deliveries.h"
 
-#include <condition_variable>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -54,7 +50,7 @@ public:
     void unplug(const std::string& path);
     // The device sends a report; it reaches its input callback if the device was reported.
     void sendInputReport(const std::string& path, Bytes report);
-    void later(std::function<void()> step);
+    void later(std::function<void()> step) { deliveries_.later(std::move(step)); }
 
     // The criteria given last, as the watcher received them.
     std::vector<HIDMonitorData> criteria();
@@ -64,11 +60,9 @@ private:
     class Device;
 
     // With mutex_ held.
-    void queue(std::function<void()> task);
     bool matches(const FakeHidDeviceSpec& spec) const;
 
     std::mutex mutex_;
-    std::condition_variable wake_;
     std::vector<HIDMonitorData> criteria_;
     DeviceCallback attached_;
     DeviceCallback removed_;
@@ -76,9 +70,7 @@ private:
     std::vector<std::shared_ptr<Device>> plugged_;
     std::map<std::string, std::vector<FakeSentReport>> sent_;
     bool running_ = false;
-    std::deque<std::function<void()>> queue_;
-    std::deque<std::function<void()>> later_;
-    bool stopped_ = false;
+    ScriptedDeliveries deliveries_;
 };
 
 } // namespace velmora::test
