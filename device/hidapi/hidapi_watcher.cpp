@@ -1,5 +1,6 @@
 #include "device/hidapi/hidapi_watcher.h"
 
+#include "device/hid_report_descriptor.h"
 #include "device/hidapi/hidapi_handle.h"
 #include "device/hidapi/hidapi_text.h"
 #include "device/hidapi/hidapi_watched_device.h"
@@ -7,7 +8,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <hidapi.h>
+#include <iterator>
 #include <map>
 #include <ostream>
 #include <set>
@@ -24,6 +28,22 @@ using namespace std::chrono_literals;
 constexpr auto notifierInterval = 100ms;
 constexpr auto enumerationInterval = 1s;
 
+// hidapi 0.13 does not hand out the report descriptor; hidraw shows it among the device's
+// attributes.
+std::optional<std::int64_t> maxInputReportSizeOf(const char* path) {
+#if defined(__linux__)
+    const auto node = std::filesystem::path(path).filename();
+    std::ifstream file(std::filesystem::path("/sys/class/hidraw") / node / "device" /
+                           "report_descriptor",
+                       std::ios::binary);
+    const Bytes descriptor{std::istreambuf_iterator<char>(file), {}};
+    if (!descriptor.empty()) {
+        return maxInputReportSize(descriptor);
+    }
+#endif
+    return std::nullopt;
+}
+
 Dictionary propertiesOf(const hid_device_info& info) {
     Dictionary properties{{"VendorID", int{info.vendor_id}},
                           {"ProductID", int{info.product_id}},
@@ -39,6 +59,9 @@ Dictionary propertiesOf(const hid_device_info& info) {
     }
     if (auto serialNumber = utf8(info.serial_number)) {
         properties.set("SerialNumber", std::move(*serialNumber));
+    }
+    if (const auto size = maxInputReportSizeOf(info.path)) {
+        properties.set("MaxInputReportSize", *size);
     }
     return properties;
 }
