@@ -16,7 +16,7 @@ namespace {
 
 // 0x04D8 and 0X04d8 are hexadecimal, 1240 is decimal. A leading zero does not make a number
 // octal, as it would for most parsers: 01240 is still 1240.
-std::optional<std::uint16_t> parseUsbIdentifier(std::string_view text) {
+std::optional<std::uint16_t> parseSixteenBitNumber(std::string_view text) {
     int base = 10;
     if (text.starts_with("0x") || text.starts_with("0X")) {
         base = 16;
@@ -30,9 +30,9 @@ std::optional<std::uint16_t> parseUsbIdentifier(std::string_view text) {
     return value;
 }
 
-const CLI::Validator usbIdentifier(
+const CLI::Validator sixteenBitNumber(
     [](std::string& text) {
-        const auto value = parseUsbIdentifier(text);
+        const auto value = parseSixteenBitNumber(text);
         if (!value) {
             return std::string(
                 "a number from 0 to 0xFFFF is needed, written in hex as 0x04D8 or in "
@@ -41,7 +41,7 @@ const CLI::Validator usbIdentifier(
         text = std::to_string(*value);
         return std::string();
     },
-    "ID");
+    "");
 
 struct WatchRequest {
     std::string source;
@@ -64,7 +64,8 @@ std::string takersOf(const std::string& option) {
     return text;
 }
 
-// Prints each notification the source posts as one record: its name, then its object's fields.
+// Prints each notification the source posts as one record: its name, then the fields the source
+// takes from it.
 class NotificationPrinter {
 public:
     NotificationPrinter(const WatchSource& source, Context& context) {
@@ -142,18 +143,20 @@ void addWatchCommand(CLI::App& app, Context& context) {
         ->add_option("source", request->source, "What to watch: " + CLI::detail::join(names, ", "))
         ->required()
         ->check(CLI::IsMember(names));
-    const auto addIdentifier = [&](const char* name, std::optional<std::uint16_t>& value,
-                                   const char* description) {
-        command->add_option(name, value, description)->transform(usbIdentifier)->type_name("ID");
+    const auto addNumber = [&](const char* name, std::optional<std::uint16_t>& value,
+                               const char* typeName, const char* description) {
+        command->add_option(name, value, description)
+            ->transform(sixteenBitNumber)
+            ->type_name(typeName);
     };
-    addIdentifier("--vendor", request->options.vendorId,
-                  "USB vendor identifier (hid, usb: default 0x04D8; serial: only ports of it)");
-    addIdentifier("--product", request->options.productId,
-                  "USB product identifier (hid, usb: default 0xF9FF; serial: only ports of it)");
-    addIdentifier("--usage-page", request->options.usagePage,
-                  "hid: only devices with this HID usage page (default: any)");
-    addIdentifier("--usage", request->options.usage,
-                  "hid: only devices with this HID usage (default: any)");
+    addNumber("--vendor", request->options.vendorId, "ID",
+              "USB vendor identifier (hid, usb: default 0x04D8; serial: only ports of it)");
+    addNumber("--product", request->options.productId, "ID",
+              "USB product identifier (hid, usb: default 0xF9FF; serial: only ports of it)");
+    addNumber("--usage-page", request->options.usagePage, "PAGE",
+              "hid: only devices with this HID usage page (default: any)");
+    addNumber("--usage", request->options.usage, "USAGE",
+              "hid: only devices with this HID usage (default: any)");
     command
         ->add_option("--interval", request->options.interval,
                      "serial: seconds between polls (default 0.25)")

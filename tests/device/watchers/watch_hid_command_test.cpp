@@ -50,19 +50,6 @@ TEST(WatchHidCommand, Blink1PrintsItsOwnLinesAndTheRemoval) {
                      "deviceDisconnected\tVelmora_Software.Blink1\n");
 }
 
-TEST(WatchHidCommand, Blink1KeepsItsLinesOffJsonLines) {
-    FakeWatchPlatform platform;
-    platform.hidDevices({{.path = "/dev/hidraw0"}},
-                        [](FakeHidWatcher& hid) { hid.unplug("/dev/hidraw0"); });
-    const auto r = runCli({"watch", "blink1", "--json"});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, R"({"notification":"deviceDisconnected","class":"Velmora_Software.Blink1"})"
-                     "\n");
-    EXPECT_EQ(r.err, "Device connected\n"
-                     "Senting output: [1, 110, 0, 255, 0]\n"
-                     "Device removed\n");
-}
-
 TEST(WatchHidCommand, RefusesOptionsThatDoNotApplyAsUsageErrors) {
     FakeWatchPlatform platform;
     platform.hidDevices({});
