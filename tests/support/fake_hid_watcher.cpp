@@ -6,34 +6,36 @@ namespace velmora::test {
 
 class FakeHidWatcher::Device final : public WatchedHidDevice {
 public:
-    Device(FakeHidWatcher& watcher, FakeHidDeviceSpec spec)
-        : watcher_(watcher), spec_(std::move(spec)) {}
+    Device(FakeHidWatcher& watcher, FakeHidDeviceDescription description)
+        : watcher_(watcher), description_(std::move(description)) {}
 
-    const FakeHidDeviceSpec& spec() const { return spec_; }
+    const FakeHidDeviceDescription& description() const { return description_; }
 
     void registerInputReportCallback(InputReportCallback callback) override {
         callback_ = std::move(callback);
     }
-    std::optional<std::string> productProperty() const override { return spec_.product; }
+    std::optional<std::string> productProperty() const override { return description_.product; }
     void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
         const std::lock_guard lock(watcher_.mutex_);
-        watcher_.sent_[spec_.path].push_back({reportId, Bytes(report.begin(), report.end())});
+        watcher_.sent_[description_.path].push_back(
+            {reportId, Bytes(report.begin(), report.end())});
     }
     Value property(const std::string& key) const override {
         if (key == "LocationID") {
-            return spec_.locationId.isNone() ? Value(spec_.path) : spec_.locationId;
+            return description_.locationId.isNone() ? Value(description_.path)
+                                                    : description_.locationId;
         }
         if (key == "VendorID") {
-            return int{spec_.vendorId};
+            return int{description_.vendorId};
         }
         if (key == "ProductID") {
-            return int{spec_.productId};
+            return int{description_.productId};
         }
-        if (key == "Product" && spec_.product) {
-            return *spec_.product;
+        if (key == "Product" && description_.product) {
+            return *description_.product;
         }
-        if (key == "MaxInputReportSize" && spec_.maxInputReportSize) {
-            return *spec_.maxInputReportSize;
+        if (key == "MaxInputReportSize" && description_.maxInputReportSize) {
+            return *description_.maxInputReportSize;
         }
         return {};
     }
@@ -46,7 +48,7 @@ public:
 
 private:
     FakeHidWatcher& watcher_;
-    FakeHidDeviceSpec spec_;
+    FakeHidDeviceDescription description_;
     InputReportCallback callback_;
 };
 
@@ -75,17 +77,18 @@ std::vector<FakeSentReport> FakeHidWatcher::sentTo(const std::string& path) {
     return sent_[path];
 }
 
-bool FakeHidWatcher::matches(const FakeHidDeviceSpec& spec) const {
+bool FakeHidWatcher::matches(const FakeHidDeviceDescription& description) const {
     return std::ranges::any_of(criteria_, [&](const HIDMonitorData& criterion) {
-        return criterion.matches(spec.vendorId, spec.productId, spec.usagePage, spec.usage);
+        return criterion.matches(description.vendorId, description.productId, description.usagePage,
+                                 description.usage);
     });
 }
 
-void FakeHidWatcher::plug(const FakeHidDeviceSpec& spec) {
+void FakeHidWatcher::plug(const FakeHidDeviceDescription& description) {
     const std::lock_guard lock(mutex_);
-    const auto device = std::make_shared<Device>(*this, spec);
+    const auto device = std::make_shared<Device>(*this, description);
     plugged_.push_back(device);
-    if (running_ && matches(spec)) {
+    if (running_ && matches(description)) {
         deliveries_.deliver([this, device] { attached_(device); });
     }
 }
@@ -93,13 +96,13 @@ void FakeHidWatcher::plug(const FakeHidDeviceSpec& spec) {
 void FakeHidWatcher::unplug(const std::string& path) {
     const std::lock_guard lock(mutex_);
     const auto found =
-        std::ranges::find(plugged_, path, [](const auto& d) { return d->spec().path; });
+        std::ranges::find(plugged_, path, [](const auto& d) { return d->description().path; });
     if (found == plugged_.end()) {
         return;
     }
     const auto device = *found;
     plugged_.erase(found);
-    if (running_ && matches(device->spec())) {
+    if (running_ && matches(device->description())) {
         deliveries_.deliver([this, device] { removed_(device); });
     }
 }
@@ -107,7 +110,7 @@ void FakeHidWatcher::unplug(const std::string& path) {
 void FakeHidWatcher::sendInputReport(const std::string& path, Bytes report) {
     const std::lock_guard lock(mutex_);
     const auto found =
-        std::ranges::find(plugged_, path, [](const auto& d) { return d->spec().path; });
+        std::ranges::find(plugged_, path, [](const auto& d) { return d->description().path; });
     if (found != plugged_.end()) {
         deliveries_.deliver(
             [device = *found, report = std::move(report)] { device->deliver(report); });
@@ -120,7 +123,7 @@ void FakeHidWatcher::run() {
         running_ = true;
         // The initial drain.
         for (const auto& device : plugged_) {
-            if (matches(device->spec())) {
+            if (matches(device->description())) {
                 deliveries_.deliver([this, device] { attached_(device); });
             }
         }

@@ -19,7 +19,7 @@
 
 namespace velmora::test {
 
-struct FakeHidDeviceSpec {
+struct FakeHidDeviceDescription {
     std::string path = "/dev/hidraw0"; // how the test names it
     std::uint16_t vendorId = 0x04D8;
     std::uint16_t productId = 0xF9FF;
@@ -46,7 +46,7 @@ public:
     void run() override;
     void stop() override;
 
-    void plug(const FakeHidDeviceSpec& spec);
+    void plug(const FakeHidDeviceDescription& description);
     void unplug(const std::string& path);
     // The device sends a report; it reaches its input callback if the device was reported.
     void sendInputReport(const std::string& path, Bytes report);
@@ -60,7 +60,7 @@ private:
     class Device;
 
     // With mutex_ held.
-    bool matches(const FakeHidDeviceSpec& spec) const;
+    bool matches(const FakeHidDeviceDescription& description) const;
 
     std::mutex mutex_;
     std::vector<HIDMonitorData> criteria_;

@@ -58,7 +58,7 @@ void FakeWatchPlatform::usbDevices(std::vector<FakeUsbDevice> devices,
     };
 }
 
-void FakeWatchPlatform::hidDevices(std::vector<FakeHidDeviceSpec> devices,
+void FakeWatchPlatform::hidDevices(std::vector<FakeHidDeviceDescription> devices,
                                    std::function<void(FakeHidWatcher&)> script) {
     watchPlatform().hidWatcher = [this, devices, script](std::ostream&) {
         return scriptedWatcher(devices, script, [this] { stop_->request(); });

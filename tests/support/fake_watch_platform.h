@@ -31,7 +31,7 @@ public:
                     std::function<void(FakeUsbWatcher&)> script = {});
 
     // The same for HID devices; what the watcher's adapter would tell goes to its diagnostics.
-    void hidDevices(std::vector<FakeHidDeviceSpec> devices,
+    void hidDevices(std::vector<FakeHidDeviceDescription> devices,
                     std::function<void(FakeHidWatcher&)> script = {});
 
     void keepRealInterrupts();
