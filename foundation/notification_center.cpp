@@ -21,7 +21,7 @@ void NotificationCenter::removeObserver(Token token) {
     std::erase_if(entries_, [token](const Entry& e) { return e.token == token; });
 }
 
-void NotificationCenter::post(const std::string& name, const Value& object) {
+void NotificationCenter::post(const std::string& name, const Value& object, const Value& userInfo) {
     // Observers run outside the lock: one may post, add or remove in turn.
     std::vector<Observer> targets;
     {
@@ -32,7 +32,7 @@ void NotificationCenter::post(const std::string& name, const Value& object) {
             }
         }
     }
-    const Notification n{name, object};
+    const Notification n{name, object, userInfo};
     for (const auto& observer : targets) {
         observer(n);
     }

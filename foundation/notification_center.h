@@ -17,6 +17,8 @@ namespace velmora {
 struct Notification {
     std::string name;
     Value object;
+    // Details beside the object; most notifications have none.
+    Value userInfo;
 };
 
 class NotificationCenter {
@@ -29,7 +31,7 @@ public:
 
     Token addObserver(std::string name, Observer observer);
     void removeObserver(Token token);
-    void post(const std::string& name, const Value& object = {});
+    void post(const std::string& name, const Value& object = {}, const Value& userInfo = {});
 
 private:
     struct Entry {

@@ -16,7 +16,7 @@ namespace {
 
 // 0x04D8 and 0X04d8 are hexadecimal, 1240 is decimal. A leading zero does not make a number
 // octal, as it would for most parsers: 01240 is still 1240.
-std::optional<std::uint16_t> parseUsbIdentifier(std::string_view text) {
+std::optional<std::uint16_t> parseSixteenBitNumber(std::string_view text) {
     int base = 10;
     if (text.starts_with("0x") || text.starts_with("0X")) {
         base = 16;
@@ -30,24 +30,42 @@ std::optional<std::uint16_t> parseUsbIdentifier(std::string_view text) {
     return value;
 }
 
-const CLI::Validator usbIdentifier(
+const CLI::Validator sixteenBitNumber(
     [](std::string& text) {
-        const auto value = parseUsbIdentifier(text);
+        const auto value = parseSixteenBitNumber(text);
         if (!value) {
-            return std::string("a USB identifier is a number from 0 to 0xFFFF, written in hex "
-                               "as 0x04D8 or in decimal as 1240");
+            return std::string(
+                "a number from 0 to 0xFFFF is needed, written in hex as 0x04D8 or in "
+                "decimal as 1240");
         }
         text = std::to_string(*value);
         return std::string();
     },
-    "ID");
+    "");
 
 struct WatchRequest {
     std::string source;
     WatchOptions options;
+    std::vector<std::string> given; // the options typed beyond the common ones
 };
 
-// Prints each notification the source posts as one record: its name, then its object's fields.
+// "hid, usb and serial"
+std::string takersOf(const std::string& option) {
+    std::vector<std::string> names;
+    for (const auto& source : watchSources()) {
+        if (std::ranges::find(source.takes, option) != source.takes.end()) {
+            names.push_back(source.name);
+        }
+    }
+    std::string text;
+    for (std::size_t k = 0; k < names.size(); ++k) {
+        text += (k == 0 ? "" : k + 1 == names.size() ? " and " : ", ") + names[k];
+    }
+    return text;
+}
+
+// Prints each notification the source posts as one record: its name, then the fields the source
+// takes from it.
 class NotificationPrinter {
 public:
     NotificationPrinter(const WatchSource& source, Context& context) {
@@ -57,7 +75,7 @@ public:
             tokens_.push_back(center.addObserver(
                 notification.first, [&context, &fieldsOf](const Notification& n) {
                     Fields fields{{"notification", n.name}};
-                    for (auto& field : fieldsOf(n.object)) {
+                    for (auto& field : fieldsOf(n)) {
                         fields.push_back(std::move(field));
                     }
                     printRecord(*context.out, context.json, fields);
@@ -80,10 +98,12 @@ private:
 void runWatch(const WatchRequest& request, Context& context) {
     const auto& sources = watchSources();
     const auto source = std::ranges::find(sources, request.source, &WatchSource::name);
-    if (request.options.interval && !source->takesInterval) {
-        *context.err << "--interval applies to watch serial only\n";
-        context.exitCode = exitUsage;
-        return;
+    for (const auto& option : request.given) {
+        if (std::ranges::find(source->takes, option) == source->takes.end()) {
+            *context.err << option << " applies to watch " << takersOf(option) << " only\n";
+            context.exitCode = exitUsage;
+            return;
+        }
     }
     // The watchers' own lines stay off standard output when it carries JSON Lines.
     std::ostream& lines = context.json ? *context.err : *context.out;
@@ -123,21 +143,33 @@ void addWatchCommand(CLI::App& app, Context& context) {
         ->add_option("source", request->source, "What to watch: " + CLI::detail::join(names, ", "))
         ->required()
         ->check(CLI::IsMember(names));
-    command
-        ->add_option("--vendor", request->options.vendorId,
-                     "USB vendor identifier (usb: default 0x04D8; serial: only ports of it)")
-        ->transform(usbIdentifier)
-        ->type_name("ID");
-    command
-        ->add_option("--product", request->options.productId,
-                     "USB product identifier (usb: default 0xF9FF; serial: only ports of it)")
-        ->transform(usbIdentifier)
-        ->type_name("ID");
+    const auto addNumber = [&](const char* name, std::optional<std::uint16_t>& value,
+                               const char* typeName, const char* description) {
+        command->add_option(name, value, description)
+            ->transform(sixteenBitNumber)
+            ->type_name(typeName);
+    };
+    addNumber("--vendor", request->options.vendorId, "ID",
+              "USB vendor identifier (hid, usb: default 0x04D8; serial: only ports of it)");
+    addNumber("--product", request->options.productId, "ID",
+              "USB product identifier (hid, usb: default 0xF9FF; serial: only ports of it)");
+    addNumber("--usage-page", request->options.usagePage, "PAGE",
+              "hid: only devices with this HID usage page (default: any)");
+    addNumber("--usage", request->options.usage, "USAGE",
+              "hid: only devices with this HID usage (default: any)");
     command
         ->add_option("--interval", request->options.interval,
                      "serial: seconds between polls (default 0.25)")
         ->type_name("SECONDS");
-    command->callback([&context, request] { runWatch(*request, context); });
+    command->callback([&context, request, command] {
+        request->given.clear();
+        for (const CLI::Option* option : command->get_options()) {
+            if (option->nonpositional() && option->count() > 0) {
+                request->given.push_back(option->get_name());
+            }
+        }
+        runWatch(*request, context);
+    });
 }
 
 } // namespace velmora::cli

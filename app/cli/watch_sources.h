@@ -5,8 +5,10 @@
 
 #include "app/cli/cli.h"
 #include "app/cli/output.h"
+#include "foundation/notification_center.h"
 #include "foundation/value.h"
 
+#include <any>
 #include <cstdint>
 #include <functional>
 #include <iosfwd>
@@ -22,6 +24,8 @@ struct WatchOptions {
     std::optional<std::uint16_t> vendorId;  // --vendor
     std::optional<std::uint16_t> productId; // --product
     std::optional<double> interval;         // --interval, in seconds
+    std::optional<std::uint16_t> usagePage; // --usage-page
+    std::optional<std::uint16_t> usage;     // --usage
 };
 
 // A watcher as the command drives it: start() blocks until stop(), which may come from any thread.
@@ -32,11 +36,31 @@ public:
     virtual void stop() = 0;
 };
 
+// A watcher together with the source it watches through, which it owns. begin is the watcher's
+// blocking start.
+template <class Source, class Monitor, void (Monitor::*begin)() = &Monitor::start>
+class MonitorWatch final : public Watch {
+public:
+    // makeMonitor(source) gives the watcher over the source.
+    template <class MakeMonitor>
+    MonitorWatch(std::unique_ptr<Source> source, MakeMonitor makeMonitor)
+        : source_(std::move(source)), monitor_(makeMonitor(*source_)) {}
+
+    Monitor& monitor() { return monitor_; }
+    void start() override { (monitor_.*begin)(); }
+    void stop() override { monitor_.stop(); }
+
+private:
+    std::unique_ptr<Source> source_;
+    Monitor monitor_;
+};
+
 struct WatchSource {
-    using FieldsOf = std::function<Fields(const Value& object)>;
+    using FieldsOf = std::function<Fields(const Notification& notification)>;
 
     std::string name; // as typed after `watch`
-    bool takesInterval = false;
+    // The options beyond the common ones that it takes, as typed: "--vendor", "--interval", ...
+    std::vector<std::string> takes;
     std::vector<std::pair<std::string, FieldsOf>> notifications;
     // The watcher's own diagnostic lines go to lines. Null after telling why on context.err and
     // setting context.exitCode.
@@ -46,5 +70,24 @@ struct WatchSource {
 };
 
 const std::vector<WatchSource>& watchSources();
+
+// The entries of the table; the two over HID are in watch_sources_hid.cpp.
+WatchSource usbSource();
+WatchSource serialSource();
+WatchSource hidSource();
+WatchSource blink1Source();
+
+// What the entries share in printing: 0x04D8 for hex(0x04D8, 4), and the record under key in a
+// notification's object, none when it is missing or of another type.
+std::string hex(std::uint64_t value, int digits);
+template <class T> const T* recordIn(const Value& object, const char* key) {
+    const Value* value = object[key];
+    const std::any* record = value ? value->asRecord() : nullptr;
+    return record ? std::any_cast<T>(record) : nullptr;
+}
+
+// The instrument's identifiers, watched by `watch usb` and `watch hid` unless others are given.
+inline constexpr std::uint16_t instrumentVendorId = 0x04D8;
+inline constexpr std::uint16_t instrumentProductId = 0xF9FF;
 
 } // namespace velmora::cli

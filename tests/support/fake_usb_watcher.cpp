@@ -67,14 +67,13 @@ void FakeUsbWatcher::deliver(const Watch& watch, bool attached,
     if (devices.empty()) {
         return;
     }
-    queue_.push_back([&watch, attached, devices = std::move(devices)] {
+    deliveries_.deliver([&watch, attached, devices = std::move(devices)] {
         UsbServices services;
         for (const auto& device : devices) {
             services.push_back(std::make_unique<FakeService>(device));
         }
         (attached ? watch.attached : watch.removed)(services);
     });
-    wake_.notify_all();
 }
 
 void FakeUsbWatcher::watch(USBMonitorData criterion, Handler attached, Handler removed) {
@@ -104,35 +103,12 @@ void FakeUsbWatcher::unplug(std::uint64_t location) {
     }
 }
 
-void FakeUsbWatcher::later(std::function<void()> step) {
-    const std::lock_guard lock(mutex_);
-    later_.push_back(std::move(step));
-    wake_.notify_all();
-}
-
 void FakeUsbWatcher::run() {
-    std::unique_lock lock(mutex_);
-    while (true) {
-        auto& from = !queue_.empty() ? queue_ : later_;
-        if (from.empty()) {
-            if (stopped_) {
-                return;
-            }
-            wake_.wait(lock);
-            continue;
-        }
-        const auto task = std::move(from.front());
-        from.pop_front();
-        lock.unlock();
-        task();
-        lock.lock();
-    }
+    deliveries_.run();
 }
 
 void FakeUsbWatcher::stop() {
-    const std::lock_guard lock(mutex_);
-    stopped_ = true;
-    wake_.notify_all();
+    deliveries_.stop();
 }
 
 } // namespace velmora::test

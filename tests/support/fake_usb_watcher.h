@@ -1,14 +1,11 @@
 #pragma once
 
 // A scripted bus for the raw-USB watchers. The test plugs and unplugs devices, and can make any
-// step of taking hold of a device fail. run() delivers what is queued, in order, and runs each of
-// the test's later() steps once everything queued before it has been delivered; it returns when
-// stop() has come and nothing is left, so a test that calls stop() first runs its whole script on
-// its own thread.
+// step of taking hold of a device fail. run() and later() are those of ScriptedDeliveries.
 
 #include "device/usb_watcher.h"
+#include "tests/support/scripted_deliveries.h"
 
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -46,7 +43,7 @@ public:
     // when they begin later.
     void plug(const FakeUsbDevice& device);
     void unplug(std::uint64_t location);
-    void later(std::function<void()> step);
+    void later(std::function<void()> step) { deliveries_.later(std::move(step)); }
 
 private:
     struct Watch {
@@ -59,12 +56,9 @@ private:
     void deliver(const Watch& watch, bool attached, std::vector<FakeUsbDevice> devices);
 
     std::mutex mutex_;
-    std::condition_variable wake_;
     std::deque<Watch> watches_;
     std::vector<FakeUsbDevice> present_;
-    std::deque<std::function<void()>> queue_;
-    std::deque<std::function<void()>> later_;
-    bool stopped_ = false;
+    ScriptedDeliveries deliveries_;
 };
 
 } // namespace velmora::test

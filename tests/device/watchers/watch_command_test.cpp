@@ -1,7 +1,5 @@
-#include "app/cli/watch_platform.h"
 #include "tests/cli/cli_runner.h"
-#include "tests/support/fake_serial_port_source.h"
-#include "tests/support/fake_usb_watcher.h"
+#include "tests/support/fake_watch_platform.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -9,66 +7,10 @@
 namespace velmora::test {
 namespace {
 
-using cli::StopSignal;
-using cli::WatchPlatform;
 using cli::watchPlatform;
 
 const SerialDevice ftdi = usbSerialPort("/dev/ttyUSB0", 0x0403, 0x6001);
 const SerialDevice instrument = usbSerialPort("/dev/ttyACM0", 0x04D8, 0xF9FF);
-
-// Puts fakes in the place of the machine's devices, and gives the test the command's stop, for as
-// long as it lives.
-class FakeWatchPlatform {
-public:
-    FakeWatchPlatform() : saved_(watchPlatform()) {
-        watchPlatform().endOn = [this](StopSignal& stop) {
-            stop_ = &stop;
-            return std::shared_ptr<void>();
-        };
-    }
-    FakeWatchPlatform(const FakeWatchPlatform&) = delete;
-    FakeWatchPlatform& operator=(const FakeWatchPlatform&) = delete;
-    ~FakeWatchPlatform() { watchPlatform() = saved_; }
-
-    // The serial ports take these snapshots; the watch is told to end at the call numbered
-    // endAtCall.
-    void serialSnapshots(std::vector<std::vector<SerialDevice>> snapshots, std::size_t endAtCall) {
-        watchPlatform().serialPorts = [this, snapshots, endAtCall] {
-            return std::make_unique<FakeSerialPortSource>(snapshots,
-                                                          [this, endAtCall](std::size_t call) {
-                                                              if (call == endAtCall) {
-                                                                  stop_->request();
-                                                              }
-                                                          });
-        };
-    }
-
-    // The bus holds these devices; once they are reported, script runs on the watcher, then the
-    // watch is told to end.
-    void usbDevices(std::vector<FakeUsbDevice> devices,
-                    std::function<void(FakeUsbWatcher&)> script = {}) {
-        watchPlatform().usbWatcher = [this, devices, script](std::string&) {
-            auto watcher = std::make_unique<FakeUsbWatcher>();
-            for (const auto& device : devices) {
-                watcher->plug(device);
-            }
-            FakeUsbWatcher* bus = watcher.get();
-            watcher->later([this, bus, script] {
-                if (script) {
-                    script(*bus);
-                }
-                bus->later([this] { stop_->request(); });
-            });
-            return watcher;
-        };
-    }
-
-    void keepRealInterrupts() { watchPlatform().endOn = saved_.endOn; }
-
-private:
-    WatchPlatform saved_;
-    StopSignal* stop_ = nullptr;
-};
 
 TEST(WatchCommand, SerialPrintsEachPortAsItComesAndGoes) {
     FakeWatchPlatform platform;

@@ -1,0 +1,62 @@
+#pragma once
+
+// A general watcher of HID devices by vendor/product, and optionally usage, criteria. It posts
+// HIDDeviceConnected for every matching device present at start and every one attached later,
+// HIDDeviceDataReceived with the raw bytes of each of their input reports, and
+// HIDDeviceDisconnected for every one removed: the instrument session's three names, with payloads
+// of their own. Nothing in the application starts it: it is what a technician runs to see what is
+// plugged in.
+
+#include "device/hid_watcher.h"
+#include "foundation/notification_center.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace velmora {
+
+// One attached device, as HIDDeviceConnected carries it in {"device": the HIDDevice as a record}.
+// HIDDeviceDisconnected carries {"id": its id}; HIDDeviceDataReceived {"data": the report's
+// bytes}.
+struct HIDDevice {
+    std::string id; // the "LocationID" when it is text, else empty
+    std::int64_t vendorId = 0;
+    std::int64_t productId = 0;
+    std::int64_t reportSize = 0; // the device's largest input report
+    std::shared_ptr<WatchedHidDevice> device;
+    std::string name;
+
+    static HIDDevice from(const std::shared_ptr<WatchedHidDevice>& device);
+};
+
+class HIDDeviceMonitor {
+public:
+    // reportSize is the length of the input buffer each device gets: longer reports are cut to
+    // it. Notifications go to center, posted from the thread of start().
+    HIDDeviceMonitor(std::vector<HIDMonitorData> vp, std::int64_t reportSize, HidWatcher& watcher,
+                     NotificationCenter& center = NotificationCenter::defaultCenter());
+    virtual ~HIDDeviceMonitor() = default;
+    HIDDeviceMonitor(const HIDDeviceMonitor&) = delete;
+    HIDDeviceMonitor& operator=(const HIDDeviceMonitor&) = delete;
+
+    // Watches and reports until stop(): meant for a thread of its own. Call once.
+    void start();
+    // Safe from any thread; start() returns soon after, or at once if it has not begun yet.
+    void stop() { watcher_.stop(); }
+
+    virtual void inputReportReceived(std::span<const std::uint8_t> report);
+    virtual void deviceAttached(const std::shared_ptr<WatchedHidDevice>& device);
+    virtual void deviceRemoved(const std::shared_ptr<WatchedHidDevice>& device);
+
+    const std::vector<HIDMonitorData> vp;
+    const std::int64_t reportSize;
+
+private:
+    HidWatcher& watcher_;
+    NotificationCenter& center_;
+};
+
+} // namespace velmora
