@@ -6,6 +6,7 @@
 #include "app/qt/light_appearance.h"
 #include "app/qt/options.h"
 #include "app/qt/qt_localized_strings.h"
+#include "app/qt/qt_pdf_leaks.h"
 #include "app/qt/startup_report.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
