@@ -1,0 +1,73 @@
+#include "app/app_delegate.h"
+
+namespace velmora {
+
+AppDelegate::AppDelegate(HIDDeviceConnector& hidDeviceConnector, ContainerFactory makeContainer,
+                         AlertPresenter& alertPresenter, const LocalizedStrings& strings, Log& log)
+    : hidDeviceConnector_(hidDeviceConnector), makeContainer_(std::move(makeContainer)),
+      alertPresenter_(alertPresenter), strings_(strings), log_(log) {}
+
+void AppDelegate::applicationWillTerminate() {
+    hidDeviceConnector_.applicationTerminated();
+}
+
+PersistentStore& AppDelegate::persistentContainer() {
+    if (!persistentContainer_) {
+        persistentContainer_ = makeContainer_();
+        // Nothing is kept in the container yet, so the application carries on without it.
+        if (const auto error = persistentContainer_->loadPersistentStores()) {
+            log_.error("Unresolved error " + *error);
+        }
+    }
+    return *persistentContainer_;
+}
+
+void AppDelegate::saveAction() {
+    PersistentStore& context = persistentContainer();
+    if (!context.commitEditing()) {
+        log_.error(std::string(className) + " unable to commit editing before saving");
+    }
+    if (!context.hasChanges()) {
+        return;
+    }
+    if (const auto error = context.save()) {
+        presentError(*error);
+    }
+}
+
+TerminateReply AppDelegate::applicationShouldTerminate() {
+    PersistentStore& context = persistentContainer();
+    if (!context.commitEditing()) {
+        log_.error(std::string(className) + " unable to commit editing to terminate");
+        return TerminateReply::Cancel;
+    }
+    if (!context.hasChanges()) {
+        return TerminateReply::Now;
+    }
+    const auto error = context.save();
+    if (!error) {
+        return TerminateReply::Now;
+    }
+    // The store offers no way to recover from a failed save, so showing the error never deals
+    // with it: the user chooses between losing the changes and staying.
+    presentError(*error);
+    // Quit without saves error question message
+    const std::string question =
+        strings_.localizedString("Could not save changes while quitting. Quit anyway?");
+    // Quit without saves error question info
+    const std::string info = strings_.localizedString(
+        "Quitting now will lose any changes you have made since the last successful save");
+    // Quit anyway button title
+    const std::string quitButton = strings_.localizedString("Quit anyway");
+    // Cancel button title
+    const std::string cancelButton = strings_.localizedString("Cancel");
+    const std::size_t answer =
+        alertPresenter_.runModal(question, info, AlertStyle::Warning, {quitButton, cancelButton});
+    return answer == 1 ? TerminateReply::Cancel : TerminateReply::Now;
+}
+
+void AppDelegate::presentError(const std::string& description) {
+    alertPresenter_.runModal(description, {}, AlertStyle::Warning, {"OK"});
+}
+
+} // namespace velmora

@@ -1,0 +1,241 @@
+// velmora-screenshots OUTDIR: walks the real window through the road a new user takes, against
+// the simulated instrument, and saves a screenshot of each stop into OUTDIR. The tutorial shows
+// them. It runs offscreen unless QT_QPA_PLATFORM says otherwise.
+
+#include "app/qt/application_shell.h"
+#include "app/qt/dialog_screen_presenter.h"
+#include "app/qt/light_appearance.h"
+#include "app/qt/qt_pdf_leaks.h"
+#include "app/sqlite/sqlite_store.h"
+#include "data/reference_loader.h"
+#include "device/sim/replayed_readings.h"
+#include "device/sim/simulated_instrument.h"
+#include "foundation/qt/qt_run_loop.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPdfDocument>
+#include <QPdfView>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <iostream>
+
+namespace velmora::qt {
+namespace {
+
+// Quartz on the prism, held steady.
+constexpr std::uint16_t shownReading = 1544;
+constexpr std::chrono::milliseconds patience{5000};
+
+class QuietLog final : public Log {
+public:
+    void info(std::string_view) override {}
+    void error(std::string_view line) override { std::cerr << line << '\n'; }
+};
+
+// An alert means the road went wrong: say so, answer it and go on to fail at the end.
+class UnexpectedAlerts final : public AlertPresenter {
+public:
+    std::size_t runModal(const std::string& message, const std::string& informative, AlertStyle,
+                         const std::vector<std::string>&) override {
+        std::cerr << "velmora-screenshots: unexpected alert: " << message << " " << informative
+                  << '\n';
+        ++count;
+        return 0;
+    }
+    int count = 0;
+};
+
+class NoWorkspace final : public Workspace {
+public:
+    void openUrl(const std::string&) override {}
+    void composeMail(const std::string&, const std::string&, const std::string&) override {}
+};
+
+class Tour {
+public:
+    Tour(MainWindowWidget& window, QDir out) : window_(window), out_(std::move(out)) {}
+
+    bool run() {
+        window_.resize(1280, 800);
+        window_.show();
+        settle();
+
+        click("btn_connected");
+        const QString reading = QLocale::c().toString(shownReading / 1000.0, 'f', 3);
+        if (!QTest::qWaitFor([&] { return child<QLabel>("usb_device_reading")->text() == reading; },
+                             static_cast<int>(patience.count()))) {
+            std::cerr
+                << "velmora-screenshots: no live reading came from the simulated instrument\n";
+            return false;
+        }
+        save(window_, "reading-tab.png");
+
+        click("btn_enter");
+        save(window_, "reading-enter.png");
+
+        click("check_sg");
+        type("txt_leftSG", "2.65");
+        click("btn_search");
+        save(window_, "reading-narrowed.png");
+
+        click("bvtn_dictionary");
+        pickStone("Ruby");
+        save(window_, "dictionary-tab.png");
+
+        click("check_Name");
+        type("txt_left_name", "sapphire");
+        click("btn_search");
+        save(window_, "dictionary-name.png");
+
+        saveScreen("btn_contactUs", "contact.png");
+        saveScreen("btn_tutorial", "tutorial.png");
+        return saved_ == 7;
+    }
+
+private:
+    template <class Widget> Widget* child(const char* name) {
+        auto* widget = window_.findChild<Widget*>(name);
+        if (!widget) {
+            std::cerr << "velmora-screenshots: the window has no " << name << '\n';
+            std::exit(1);
+        }
+        return widget;
+    }
+
+    // The work that the last gesture queued, and the repaint.
+    static void settle() {
+        for (int i = 0; i < 3; ++i) {
+            QCoreApplication::processEvents();
+        }
+    }
+
+    // As the user clicks: the button takes the keyboard, which ends the editing of an entry.
+    void click(const char* name) {
+        auto* button = child<QAbstractButton>(name);
+        // A check box answers on its box and title, not on the rest of its width.
+        const QPoint where = qobject_cast<QCheckBox*>(button) ? QPoint(7, button->height() / 2)
+                                                              : button->rect().center();
+        QTest::mouseClick(button, Qt::LeftButton, {}, where);
+        settle();
+    }
+
+    void type(const char* name, const char* text) {
+        QLineEdit* entry = child<QLineEdit>(name);
+        entry->setFocus(Qt::MouseFocusReason);
+        QTest::keyClicks(entry, text);
+        settle();
+    }
+
+    void pickStone(const QString& name) {
+        auto* popUp = child<QComboBox>("btn_stonesList");
+        const int index = popUp->findText(name);
+        popUp->setCurrentIndex(index);
+        emit popUp->activated(index);
+        settle();
+    }
+
+    void save(QWidget& widget, const char* file) {
+        if (widget.grab().save(out_.filePath(file))) {
+            ++saved_;
+        } else {
+            std::cerr << "velmora-screenshots: cannot write " << out_.filePath(file).toStdString()
+                      << '\n';
+        }
+    }
+
+    // The screen opens modally: it is photographed and closed from inside its own loop.
+    void saveScreen(const char* button, const char* file) {
+        QTimer::singleShot(0, &window_, [this, file] {
+            QWidget* screen = QApplication::activeModalWidget();
+            if (!screen) {
+                return;
+            }
+            if (auto* viewer = screen->findChild<QPdfView*>()) {
+                waitForPages(*viewer);
+            }
+            save(*screen, file);
+            screen->close();
+        });
+        click(button);
+    }
+
+    // The viewer renders its pages on a worker thread; the first one is enough.
+    static void waitForPages(QPdfView& viewer) {
+        if (!viewer.document() || viewer.document()->pageCount() == 0) {
+            return;
+        }
+        const QImage blank = viewer.grab().toImage();
+        if (!QTest::qWaitFor([&] { return viewer.grab().toImage() != blank; },
+                             static_cast<int>(patience.count()))) {
+            std::cerr << "velmora-screenshots: the tutorial's pages were not drawn in time\n";
+        }
+    }
+
+    MainWindowWidget& window_;
+    QDir out_;
+    int saved_ = 0;
+};
+
+int run(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: velmora-screenshots OUTDIR\n";
+        return 2;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    useLightAppearance(application);
+    const QDir out(QString::fromLocal8Bit(argv[1]));
+    if (!QDir().mkpath(out.path())) {
+        std::cerr << "velmora-screenshots: cannot create " << argv[1] << '\n';
+        return 1;
+    }
+
+    QtRunLoop runLoop(&application);
+    NotificationCenter center;
+    QuietLog log;
+    HIDDeviceConnector instrument(
+        sim::simulatedInstrumentFactory(
+            std::make_shared<sim::ReplayedReadings>(std::vector<std::uint16_t>{shownReading})),
+        runLoop, center, log);
+    UnexpectedAlerts alerts;
+    // The same notation on every machine, so the pictures match the tutorial's text.
+    const FixedLocale locale(".", ",");
+    NoWorkspace workspace;
+    DialogScreenPresenter screens(workspace, Bundle::main());
+    QTemporaryDir data;
+    const struct English final : LocalizedStrings {
+        std::string localizedString(const std::string& key) const override { return key; }
+    } strings;
+    AppDelegate delegate(
+        instrument,
+        [&data] {
+            return std::make_unique<SqliteStore>(
+                std::filesystem::path(data.path().toStdU16String()) / "Velmora.sqlite",
+                Bundle::main().pathForResource("Velmora", "sql"));
+        },
+        alerts, strings, log);
+    ApplicationShell shell({runLoop, center, alerts, locale, referenceFilePath(Bundle::main()),
+                            std::cerr, screens, instrument},
+                           delegate);
+    const bool done = Tour(shell.window(), out).run();
+    instrument.disconnectDataToDevice();
+    return done && alerts.count == 0 ? 0 : 1;
+}
+
+} // namespace
+} // namespace velmora::qt
+
+int main(int argc, char** argv) {
+    return velmora::qt::run(argc, argv);
+}

@@ -1,0 +1,120 @@
+#include "app/app_delegate.h"
+#include "tests/support/answering_alert_presenter.h"
+#include "tests/support/fake_hid.h"
+#include "tests/support/manual_run_loop.h"
+#include "tests/support/memory_store.h"
+#include "tests/support/recording_log.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// Marks every text it is asked for, to show that the text went through translation.
+class MarkedStrings final : public LocalizedStrings {
+public:
+    std::string localizedString(const std::string& key) const override { return "«" + key + "»"; }
+};
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    AppDelegate& delegate(MemoryStoreSetup setup = {}) {
+        delegate_.emplace(
+            connector,
+            [this, setup] {
+                ++containersMade;
+                return std::make_unique<MemoryStore>(setup);
+            },
+            alerts, strings, log);
+        return *delegate_;
+    }
+    MemoryStore& store() { return dynamic_cast<MemoryStore&>(delegate_->persistentContainer()); }
+
+    ManualRunLoop runLoop;
+    NotificationCenter center;
+    RecordingLog log;
+    FakeHidBus bus;
+    HIDDeviceConnector connector{bus.managerFactory(), runLoop, center, log};
+    AnsweringAlertPresenter alerts;
+    MarkedStrings strings;
+    int containersMade = 0;
+    std::optional<AppDelegate> delegate_;
+};
+
+TEST_F(AppDelegateTest, TheContainerIsMadeOnFirstUseOnlyAndAFreshQuitGoesAheadSilently) {
+    AppDelegate& d = delegate();
+    EXPECT_EQ(containersMade, 0);
+    EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
+    EXPECT_EQ(&d.persistentContainer(), &d.persistentContainer());
+    EXPECT_EQ(containersMade, 1);
+    EXPECT_EQ(store().loads, 1);
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, AStoreThatFailsToLoadIsReportedAndTheApplicationCarriesOn) {
+    AppDelegate& d = delegate({.loadError = "disk full"});
+    d.saveAction();
+    EXPECT_THAT(log.errorLines, ElementsAre("Unresolved error disk full"));
+    EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, SaveWritesChangesAndShowsAFailure) {
+    delegate({.hasChanges = true}).saveAction();
+    EXPECT_EQ(store().saves, 1);
+    delegate().saveAction(); // no changes: nothing visible
+    EXPECT_EQ(store().saves, 0);
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+
+    delegate({.refusesCommit = true, .hasChanges = true, .saveError = "read-only folder"})
+        .saveAction();
+    EXPECT_THAT(log.errorLines,
+                ElementsAre("Velmora_Software.AppDelegate unable to commit editing before saving"));
+    ASSERT_EQ(alerts.alerts.size(), 1u);
+    EXPECT_EQ(alerts.alerts[0].message, "read-only folder");
+    EXPECT_EQ(alerts.alerts[0].buttons, std::vector<std::string>{"OK"});
+}
+
+TEST_F(AppDelegateTest, EditsThatCannotBeCommittedHoldTheQuitBack) {
+    EXPECT_EQ(delegate({.refusesCommit = true}).applicationShouldTerminate(),
+              TerminateReply::Cancel);
+    EXPECT_THAT(log.errorLines,
+                ElementsAre("Velmora_Software.AppDelegate unable to commit editing to terminate"));
+}
+
+TEST_F(AppDelegateTest, ChangesAreSavedBeforeTheQuit) {
+    EXPECT_EQ(delegate({.hasChanges = true}).applicationShouldTerminate(), TerminateReply::Now);
+    EXPECT_EQ(store().saves, 1);
+}
+
+TEST_F(AppDelegateTest, AFailedSaveAtQuitShowsTheErrorThenAsksInTheUsersLanguage) {
+    const MemoryStoreSetup failing{.hasChanges = true, .saveError = "disk full"};
+    alerts.answers = {0, 1}; // OK, then Cancel
+    EXPECT_EQ(delegate(failing).applicationShouldTerminate(), TerminateReply::Cancel);
+    ASSERT_EQ(alerts.alerts.size(), 2u);
+    EXPECT_EQ(alerts.alerts[0].message, "disk full");
+    const RecordedAlert& question = alerts.alerts[1];
+    EXPECT_EQ(question.message, "«Could not save changes while quitting. Quit anyway?»");
+    EXPECT_EQ(question.informative, "«Quitting now will lose any changes you have made since "
+                                    "the last successful save»");
+    EXPECT_THAT(question.buttons, ElementsAre("«Quit anyway»", "«Cancel»"));
+
+    alerts.answers = {0, 0}; // OK, then Quit anyway
+    EXPECT_EQ(delegate(failing).applicationShouldTerminate(), TerminateReply::Now);
+}
+
+TEST_F(AppDelegateTest, TerminationStopsTheInstrumentSession) {
+    AppDelegate& d = delegate();
+    connector.connectDataToDevice();
+    ASSERT_EQ(runLoop.activeTimers(), 1u);
+    d.applicationWillTerminate();
+    EXPECT_EQ(runLoop.activeTimers(), 0u);
+    EXPECT_EQ(bus.calls().back(), "unschedule");
+}
+
+} // namespace
+} // namespace velmora::test

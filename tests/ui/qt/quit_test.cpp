@@ -1,0 +1,66 @@
+#include "tests/ui/qt/shell_fixture.h"
+
+#include <QAction>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Quit = ShellTest;
+
+const MemoryStoreSetup failingSave{.hasChanges = true, .saveError = "cannot save Velmora.sqlite"};
+
+std::vector<std::string> messages(const AnsweringAlertPresenter& alerts) {
+    std::vector<std::string> texts;
+    for (const auto& alert : alerts.alerts) {
+        texts.push_back(alert.message);
+    }
+    return texts;
+}
+
+TEST_F(Quit, ClosingTheWindowWithAFailedSaveLetsTheUserStayOrQuitAnyway) {
+    open({.store = failingSave});
+    alerts.answers = {0, 1}; // the error's OK, then Cancel
+    EXPECT_FALSE(window().close());
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_THAT(messages(alerts),
+                ElementsAre("cannot save Velmora.sqlite",
+                            "Could not save changes while quitting. Quit anyway?"));
+    EXPECT_THAT(alerts.alerts[1].buttons, ElementsAre("Quit anyway", "Cancel"));
+
+    alerts.alerts.clear();
+    alerts.answers = {0, 0}; // the error's OK, then Quit anyway
+    EXPECT_TRUE(window().close());
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(alerts.alerts.size(), 2u);
+    EXPECT_EQ(containersMade, 1);
+}
+
+TEST_F(Quit, FileQuitEndsTheApplicationAndItsInstrumentSession) {
+    open();
+    click("btn_connected");
+    ASSERT_EQ(runLoop.activeTimers(), 1u);
+    QTimer::singleShot(0, [this] { window().quitAction()->trigger(); });
+    // Should the quit not happen, the test fails instead of waiting for ever.
+    QTimer::singleShot(10'000, [] {
+        ADD_FAILURE() << "File > Quit did not quit";
+        QCoreApplication::exit(1);
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(runLoop.activeTimers(), 0u); // the session stopped at termination
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+}
+
+TEST_F(Quit, SaveWithItsShortcutShowsAFailedSave) {
+    open({.store = failingSave});
+    QTest::keyClick(&window(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(messages(alerts), ElementsAre("cannot save Velmora.sqlite"));
+    EXPECT_TRUE(window().isVisible());
+}
+
+} // namespace
+} // namespace velmora::test
