@@ -96,7 +96,9 @@ int main(int argc, char** argv) {
         withMissingImagesAsCaptions(QString::fromUtf8(guide.readAll()), screenshots));
     const QSizeF page = pdf.pageLayout().paintRectPixels(dpi).size();
     document.setPageSize(page);
-    fitImages(document, screenshots, page.width() * 0.9);
+    // Image sizes are read in screen pixels (96 per inch) and scaled to the device on drawing.
+    const qreal screenPixels = page.width() * 96.0 / dpi;
+    fitImages(document, screenshots, screenPixels);
     document.print(&pdf);
     return 0;
 }
