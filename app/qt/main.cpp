@@ -14,8 +14,8 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
-#include "foundation/qt/qt_locale.h"
-#include "foundation/qt/qt_run_loop.h"
+#include "app/qt/qt_locale.h"
+#include "app/qt/qt_run_loop.h"
 #include "ui/qt/message_box_alert_presenter.h"
 
 #include <QApplication>

@@ -10,7 +10,7 @@
 #include "data/reference_loader.h"
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
-#include "foundation/qt/qt_run_loop.h"
+#include "app/qt/qt_run_loop.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "foundation/qt/qt_run_loop.h"
+#include "app/qt/qt_run_loop.h"
 
 #include <QMetaObject>
 #include <QTimer>

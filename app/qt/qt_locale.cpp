@@ -1,4 +1,4 @@
-#include "foundation/qt/qt_locale.h"
+#include "app/qt/qt_locale.h"
 
 #include <QLocale>
 
