@@ -1,7 +1,13 @@
 #pragma once
 
-// Runs velmora-cli in-process and keeps what it printed.
+// Runs velmora-cli in-process and keeps what it printed; and a reference file of the given rows
+// for its --reference.
 
+#include "app/cli/cli.h"
+#include "tests/support/reference_text.h"
+#include "tests/support/temp_dir.h"
+
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -13,6 +19,24 @@ struct CliResult {
     std::string err;
 };
 
-CliResult runCli(std::vector<std::string> args);
+inline CliResult runCli(std::vector<std::string> args) {
+    args.insert(args.begin(), "velmora-cli");
+    std::vector<const char*> argv;
+    for (const auto& a : args) {
+        argv.push_back(a.c_str());
+    }
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = cli::run(static_cast<int>(argv.size()), argv.data(), out, err);
+    return {status, out.str(), err.str()};
+}
+
+struct ReferenceFile {
+    explicit ReferenceFile(const std::vector<std::string>& rows)
+        : path(dir.write("ref.csv", referenceText(rows)).string()) {}
+
+    TempDir dir;
+    std::string path;
+};
 
 } // namespace velmora::test

@@ -1,5 +1,5 @@
+#include "data/color_catalogue.h"
 #include "tests/cli/cli_runner.h"
-#include "tests/cli/reference_file.h"
 #include "tests/support/window_harness.h"
 
 #include <gtest/gtest.h>
@@ -38,39 +38,34 @@ TEST(IdentifyCommand, UnderACommaSeparatorListsWhatTheWindowsTableLists) {
     EXPECT_EQ(r.out, "1\tAmethyst\n12\tQuartz\n");
 }
 
-TEST(IdentifyCommand, AnAlertIsPrintedAndEndsTheCommand) {
+TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
     ReferenceFile file(reference);
-    auto r = identify(file, {"--ri", "1,544", "--decimal-separator", "."});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "Please use '.' as decimals!\n");
-    EXPECT_EQ(r.out, "");
-    r = identify(file, {"--hardness", "10"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "Result: Not Found in Record\n");
-    r = identify(file, {"--name", ""});
-    EXPECT_EQ(r.err, "Please enter name of stone!\n");
-    r = identify(file, {"--sg", ""});
-    EXPECT_EQ(r.err, "Please insert number only!\n");
-}
-
-TEST(IdentifyCommand, CombinesTheCriteriaGivenAndNoneListsTheWholeSet) {
-    ReferenceFile file(reference);
-    auto r = identify(file, {"--sg", "2.65", "--hardness", "7", "--color", "Pink", "--name", "QUA",
-                             "--ri", "1.55", "--decimal-separator", "."});
-    EXPECT_EQ(r.out, "12\tQuartz\n");
-    r = identify(file, {});
-    EXPECT_EQ(r.out, "1\tAmethyst\n3\tBeryl\n12\tQuartz\n");
-    r = identify(file, {"--json", "--color", "Green"});
-    EXPECT_EQ(r.out, "{\"number\":\"3\",\"name\":\"Beryl\"}\n");
+    const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
+        {{}, "1\tAmethyst\n3\tBeryl\n12\tQuartz\n", ""},
+        {{"--sg", "2.65", "--hardness", "7", "--color", "Pink", "--name", "QUA", "--ri", "1.55",
+          "--decimal-separator", "."},
+         "12\tQuartz\n",
+         ""},
+        {{"--json", "--color", "Green"}, "{\"number\":\"3\",\"name\":\"Beryl\"}\n", ""},
+        {{"--ri", "1,544", "--decimal-separator", "."}, "", "Please use '.' as decimals!\n"},
+        {{"--hardness", "10"}, "", "Result: Not Found in Record\n"},
+        {{"--name", ""}, "", "Please enter name of stone!\n"},
+        {{"--sg", ""}, "", "Please insert number only!\n"},
+    };
+    for (const auto& [args, out, err] : cases) {
+        const auto r = identify(file, args);
+        EXPECT_EQ(r.status, err.empty() ? 0 : 1) << err;
+        EXPECT_EQ(r.out, out);
+        EXPECT_EQ(r.err, err);
+    }
 }
 
 TEST(IdentifyCommand, AnUnknownColourIsAUsageErrorNamingTheTwelve) {
     ReferenceFile file(reference);
     const auto r = identify(file, {"--color", "Gray"});
     EXPECT_EQ(r.status, 2);
-    for (const char* name : {"Green", "Red", "Black", "Yellow", "Orange", "Blue", "Brown",
-                             "Colorless", "White", "Pink", "Purple", "Grey"}) {
-        EXPECT_NE(r.err.find(name), std::string::npos) << name;
+    for (const auto& colour : colorCatalogue()) {
+        EXPECT_NE(r.err.find(colour.name), std::string::npos) << colour.name;
     }
 }
 

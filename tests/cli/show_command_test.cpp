@@ -1,5 +1,4 @@
 #include "tests/cli/cli_runner.h"
-#include "tests/cli/reference_file.h"
 
 #include <gtest/gtest.h>
 

@@ -21,59 +21,43 @@ struct Lists {
     }
 };
 
-TEST(LoadReferenceSet, PublishesTheSameSortedListTwice) {
+TEST(LoadReferenceSet, PublishesTheSortedSetTwiceAsIndependentLists) {
     test::TempDir dir;
-    const auto path =
-        dir.write("AllStoneNew.csv", std::string(referenceHeader) + "\n" + stoneRow("2", "Ruby") +
-                                         "\n" + stoneRow("1", "Amethyst") + "\n");
+    // As a spreadsheet on Western Windows saves it: CR LF and Windows-1252 (0xC9 is É).
     Lists lists;
-    ASSERT_TRUE(lists.load(path));
-    ASSERT_EQ(lists.arr_stones.size(), 2u);
-    EXPECT_EQ(lists.arr_stones[0].StoneName, "Amethyst");
+    ASSERT_TRUE(lists.load(dir.write("legacy.csv", std::string(referenceHeader) + "\r\n" +
+                                                       stoneRow("2", "Ruby") + "\r\n" +
+                                                       stoneRow("1", "\xC9meraude") + "\r\n" +
+                                                       stoneRow("3", "Amethyst") + "\r\n")));
+    ASSERT_EQ(lists.arr_stones.size(), 3u);
+    EXPECT_EQ(lists.arr_stones[0].StoneName + lists.arr_stones[1].StoneName +
+                  lists.arr_stones[2].StoneName,
+              "AmethystRuby\xC3\x89meraude");
     EXPECT_EQ(lists.arr_stones, lists.arr_stonesGlobal);
     EXPECT_EQ(lists.out.str(), "");
-
-    // The lists are values: replacing one, as a search does, leaves the other whole.
+    // Replacing one, as a search does, leaves the other whole.
     lists.arr_stones = StoneList({lists.arr_stones[0]});
-    EXPECT_EQ(lists.arr_stonesGlobal.size(), 2u);
+    EXPECT_EQ(lists.arr_stonesGlobal.size(), 3u);
+
+    Lists headerOnly;
+    ASSERT_TRUE(headerOnly.load(dir.write("h.csv", referenceHeader)));
+    EXPECT_TRUE(headerOnly.arr_stones.empty() && headerOnly.arr_stonesGlobal.empty());
 }
 
-TEST(LoadReferenceSet, UnreadableFileWritesItsReasonAndLeavesTheListsAlone) {
+TEST(LoadReferenceSet, AFileItCannotReadWritesTheReasonAndLeavesTheListsAlone) {
     test::TempDir dir;
-    Lists lists;
-    EXPECT_FALSE(lists.load(dir.path() / "missing.csv"));
-    EXPECT_TRUE(lists.arr_stones.empty());
-    EXPECT_TRUE(lists.arr_stonesGlobal.empty());
-    const std::string line = lists.out.str();
-    EXPECT_NE(line.find("missing.csv"), std::string::npos);
-    EXPECT_NE(line.find("No such file"), std::string::npos);
-    EXPECT_EQ(line.back(), '\n');
-
-    Lists folder;
-    EXPECT_FALSE(folder.load(dir.path()));
-    EXPECT_NE(folder.out.str().find("folder"), std::string::npos);
-
-    Lists absent;
-    EXPECT_FALSE(absent.load(std::nullopt));
-    EXPECT_NE(absent.out.str().find("AllStoneNew.csv"), std::string::npos);
-}
-
-TEST(LoadReferenceSet, Windows1252FileFromASpreadsheetReadsItsAccents) {
-    test::TempDir dir;
-    const auto path = dir.write("legacy.csv", std::string(referenceHeader) + "\r\n" +
-                                                  stoneRow("1", "\xC9meraude") + "\r\n");
-    Lists lists;
-    ASSERT_TRUE(lists.load(path));
-    ASSERT_EQ(lists.arr_stones.size(), 1u);
-    EXPECT_EQ(lists.arr_stones[0].StoneName, "\xC3\x89meraude");
-}
-
-TEST(LoadReferenceSet, HeaderOnlyFileLoadsTwoEmptyLists) {
-    test::TempDir dir;
-    Lists lists;
-    ASSERT_TRUE(lists.load(dir.write("h.csv", referenceHeader)));
-    EXPECT_TRUE(lists.arr_stones.empty());
-    EXPECT_TRUE(lists.arr_stonesGlobal.empty());
+    const std::pair<std::optional<std::filesystem::path>, std::string> unreadable[] = {
+        {dir.path() / "missing.csv", "No such file"},
+        {dir.path(), "folder"},
+        {std::nullopt, "AllStoneNew.csv"},
+    };
+    for (const auto& [path, reason] : unreadable) {
+        Lists lists;
+        EXPECT_FALSE(lists.load(path));
+        EXPECT_TRUE(lists.arr_stones.empty() && lists.arr_stonesGlobal.empty());
+        EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
+        EXPECT_EQ(lists.out.str().find('\n'), lists.out.str().size() - 1);
+    }
 }
 
 } // namespace

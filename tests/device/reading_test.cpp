@@ -18,7 +18,7 @@ TEST(DecodeReading, ThousandthsBecomeThreeFractionDigitsAfterAFullStop) {
     }
 }
 
-TEST(FormatReadingForDisplay, ThreeFractionDigitsWithTheLocalesSeparators) {
+TEST(FormatReadingForDisplay, ThreeFractionDigitsWithTheLocalesSeparatorsOrNothing) {
     const FixedLocale english(".", ",");
     const FixedLocale german(",", ".");
     EXPECT_EQ(formatReadingForDisplay("1.540", english), "1.540");
@@ -26,22 +26,12 @@ TEST(FormatReadingForDisplay, ThreeFractionDigitsWithTheLocalesSeparators) {
     EXPECT_EQ(formatReadingForDisplay("65.535", german), "65,535");
     EXPECT_EQ(formatReadingForDisplay("1.5", english), "1.500");
     EXPECT_EQ(formatReadingForDisplay("0", english), "0.000");
-    EXPECT_EQ(formatReadingForDisplay("-1.25", german), "-1,250");
     EXPECT_EQ(formatReadingForDisplay("1.23456", english), "1.235");
-    // Grouping starts at 1000, also when rounding carries into it.
-    EXPECT_EQ(formatReadingForDisplay("999.999", english), "999.999");
-    EXPECT_EQ(formatReadingForDisplay("999.9996", english), "1,000.000");
-    EXPECT_EQ(formatReadingForDisplay("1540", german), "1.540,000");
-    EXPECT_EQ(formatReadingForDisplay("-1234567.5", english), "-1,234,567.500");
-    // A locale without a decimal separator falls back to the full stop; one without grouping
-    // groups nothing.
-    EXPECT_EQ(formatReadingForDisplay("1234.5", FixedLocale("", "")), "1234.500");
-    EXPECT_EQ(formatReadingForDisplay("1234.5", FixedLocale(",", "\xE2\x80\xAF")), "1\xE2\x80\xAF"
-                                                                                   "234,500");
-}
-
-TEST(FormatReadingForDisplay, TextThatIsNotANumberToItsEndShowsEmpty) {
-    const FixedLocale english;
+    // No reading reaches 1000, where grouping would start; a locale without a decimal separator
+    // gets the full stop.
+    EXPECT_EQ(formatReadingForDisplay("999.999", german), "999,999");
+    EXPECT_EQ(formatReadingForDisplay("1.5", FixedLocale("", "")), "1.500");
+    // Text that is not a number to its end shows empty.
     for (const char* text : {"", " ", "abc", "1.5x", " 1.5", "1.5 ", "1,540", "+1.5", "--1", "nan",
                              "inf", "1e400", "."}) {
         EXPECT_EQ(formatReadingForDisplay(text, english), "") << '"' << text << '"';

@@ -7,12 +7,12 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// A window in the dictionary tab with every numeric criterion switched on.
+// A window in the dictionary tab with every criterion that has an entry switched on.
 struct Entries : WindowHarness {
     explicit Entries(std::string separator = ".")
         : WindowHarness({.decimalSeparator = std::move(separator)}) {
         click(window.bvtn_dictionary);
-        alertPresenter.clear(); // the empty table's "Not Found in Record"
+        alertPresenter.alerts.clear(); // the empty table's "Not Found in Record"
         for (Button* box :
              {&window.check_RI, &window.check_sg, &window.check_hardness, &window.check_Name}) {
             click(*box);
@@ -20,40 +20,46 @@ struct Entries : WindowHarness {
     }
 };
 
-TEST(PerChangeCheck, AForeignSeparatorEmptiesTheEntryWhereItIsTyped) {
-    Entries point;
-    point.type(point.window.txt_leftRIReading, "1.544");
-    EXPECT_TRUE(point.alerts().empty());
-    point.type(point.window.txt_leftSG, "1,5");
-    EXPECT_EQ(point.alerts(), Texts{"Please use '.' as decimals!"});
-    EXPECT_EQ(point.alertPresenter.alerts()[0].message, "");
-    EXPECT_EQ(point.alertPresenter.alerts()[0].style, AlertStyle::Warning);
-    EXPECT_EQ(point.alertPresenter.alerts()[0].buttons, Texts{"OK"});
-    // The character after the rejected one goes into the emptied entry.
-    EXPECT_EQ(point.window.txt_leftSG.text(), "5");
+struct TypingCase {
+    std::string separator;
+    TextField MainWindow::*entry;
+    std::string typed;
+    Texts alerts;
+    std::string left;
+};
 
-    Entries comma(",");
-    comma.type(comma.window.txt_leftHardness, "1.5");
-    EXPECT_EQ(comma.alerts(), Texts{"Please use ',' as decimals!"});
-    comma.type(comma.window.txt_leftRIReading, "1,5");
-    EXPECT_EQ(comma.alerts().size(), 1u);
-    EXPECT_EQ(comma.window.txt_leftRIReading.text(), "1,5");
-}
-
-TEST(PerChangeCheck, AnyOtherCharacterEmptiesTheEntry) {
-    for (const char* typed : {"-", " ", "x", "e"}) {
-        Entries h;
-        h.type(h.window.txt_leftSG, std::string("2") + typed);
-        EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"}) << typed;
-        EXPECT_EQ(h.window.txt_leftSG.text(), "") << typed;
+TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
+    const std::string numberOnly = "Please insert number only!";
+    const TypingCase cases[] = {
+        {".", &MainWindow::txt_leftRIReading, "1.544", {}, "1.544"},
+        // What comes after the rejected character goes into the emptied entry.
+        {".", &MainWindow::txt_leftSG, "1,5", {"Please use '.' as decimals!"}, "5"},
+        {",", &MainWindow::txt_leftHardness, "1.5", {"Please use ',' as decimals!"}, "5"},
+        {",", &MainWindow::txt_leftRIReading, "1,5", {}, "1,5"},
+        {".", &MainWindow::txt_leftSG, "2-", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2 ", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2x", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2e", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "1.2.3", {}, "1.2.3"}, // the search's to refuse
+        {".", &MainWindow::txt_left_name, "Star ruby, 1.5", {}, "Star ruby, 1.5"},
+    };
+    for (const auto& c : cases) {
+        Entries h(c.separator);
+        h.type(h.window.*c.entry, c.typed);
+        EXPECT_EQ(h.alerts(), c.alerts) << c.typed;
+        EXPECT_EQ((h.window.*c.entry).text(), c.left) << c.typed;
+        for (const auto& alert : h.alertPresenter.alerts) {
+            EXPECT_EQ(alert.message, "");
+            EXPECT_EQ(alert.style, AlertStyle::Warning);
+            EXPECT_EQ(alert.buttons, Texts{"OK"});
+        }
     }
 }
 
-TEST(PerChangeCheck, TwoSeparatorsAndAnEmptiedEntryPassButLeavingItEmptyDoesNot) {
+TEST(EntryChecks, TwoSeparatorsPassAndAnEntryEmptiedByDeletingPassesUntilItIsLeft) {
     Entries h;
     h.type(h.window.txt_leftSG, "1.2.3");
     h.leave();
-    EXPECT_TRUE(h.alerts().empty());
     h.type(h.window.txt_leftHardness, "7");
     h.deleteBackward();
     EXPECT_TRUE(h.alerts().empty());
@@ -62,35 +68,19 @@ TEST(PerChangeCheck, TwoSeparatorsAndAnEmptiedEntryPassButLeavingItEmptyDoesNot)
     EXPECT_EQ(h.window.firstResponder(), nullptr);
 }
 
-TEST(PerChangeCheck, TheNameEntryAndTextSetByTheProgramAreNeverChecked) {
+TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
     Entries h;
-    h.type(h.window.txt_left_name, "Star ruby, 1.5");
-    h.leave();
-    h.window.txt_leftSG.setText("x,y");
-    EXPECT_TRUE(h.alerts().empty());
-    EXPECT_EQ(h.window.txt_left_name.text(), "Star ruby, 1.5");
-}
-
-TEST(PerChangeCheck, AControlThatIsNoNumericEntryIsReportedAsUnsupported) {
-    Entries h;
-    h.controller.controlTextDidChange(&h.window.txt_left_name);
-    h.controller.controlTextDidChange(nullptr);
-    EXPECT_EQ(h.standardOutput.str(), "unsupported\n");
-    EXPECT_TRUE(h.alerts().empty());
-}
-
-TEST(EndOfEditingCheck, ATextWithAForeignCharacterIsEmptiedAndEditingEnds) {
-    Entries h;
-    // Set by the program while it is edited, so only the end-of-editing check sees it.
+    h.window.txt_leftRIReading.setText("x,y");
     h.type(h.window.txt_leftSG, "2");
     h.window.txt_leftSG.setText("2,6");
+    EXPECT_TRUE(h.alerts().empty());
     h.leave();
     EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
     EXPECT_EQ(h.window.txt_leftSG.text(), "");
     EXPECT_EQ(h.window.firstResponder(), nullptr);
 }
 
-TEST(EndOfEditingCheck, KeepsTheSeparatorTheWindowStartedWithWhileTypingFollowsTheLocale) {
+TEST(EntryChecks, TypingFollowsTheLocaleButTheEndOfEditingKeepsTheSeparatorTheWindowStartedWith) {
     Entries h;
     h.locale.setDecimalSeparator(",");
     h.type(h.window.txt_leftSG, "2,6");

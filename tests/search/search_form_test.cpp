@@ -6,19 +6,38 @@
 namespace velmora::test {
 namespace {
 
-using Texts = std::vector<std::string>;
 using Rows = std::vector<std::pair<std::string, std::string>>;
+using Texts = std::vector<std::string>;
 
+// Besides three stones, three ranges that never match: a single value, one cut by an en dash, and
+// a reversed one.
 const std::vector<std::string> reference = {
-    stoneRow("1", "Quartz", "1.544-1.553", "2.65-2.66", "7", "Pink"),
+    stoneRow("1", "Quartz", "1.544 - 1.553", "2.65-2.66", "7", "Pink"),
     stoneRow("2", "Amethyst", "1.544-1.553", "2.6-2.7", "7", "Purple"),
     stoneRow("3", "Beryl", "1.57-1.60", "2.6-2.9", "7.5-8", "Green"),
+    stoneRow("4", "Single", "1.54", "2.65", "7"),
+    stoneRow("5", "Dashed", "1.54\u20131.56"),
+    stoneRow("6", "Reversed", "1.55-1.54"),
 };
 
-void expectUnavailable(const MainWindow& w) {
+// The dictionary tab, worked by hand.
+struct Dictionary : WindowHarness {
+    explicit Dictionary(std::string separator = ".")
+        : WindowHarness({.rows = reference, .decimalSeparator = std::move(separator)}) {
+        click(window.bvtn_dictionary);
+    }
+    void enter(Button& box, TextField& entry, const std::string& text) {
+        click(box);
+        type(entry, text);
+        leave();
+    }
+};
+
+// Every box off, and available or not; every entry empty and disabled; no colours.
+void expectCleared(const MainWindow& w, bool available) {
     for (const Button* box :
          {&w.check_RI, &w.check_sg, &w.check_hardness, &w.check_color, &w.check_Name}) {
-        EXPECT_FALSE(box->isEnabled());
+        EXPECT_EQ(box->isEnabled(), available);
         EXPECT_EQ(box->state(), ButtonState::Off);
     }
     for (const TextField* entry :
@@ -28,41 +47,100 @@ void expectUnavailable(const MainWindow& w) {
     }
     EXPECT_FALSE(w.btn_color.isEnabled());
     EXPECT_EQ(w.btn_color.numberOfItems(), 0);
-    EXPECT_TRUE(w.btn_stonesList.isEnabled());
 }
 
 bool anyCriterionOn(const ViewControllerState& s) {
     return s.isRIState || s.isSGState || s.isHardnessState || s.isNameState || s.isColorState;
 }
 
-TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptied) {
+TEST(Search, ReadsTheRiEntryInTheUsersNotationAndMatchesItAgainstTheRanges) {
+    Dictionary comma(",");
+    comma.enter(comma.window.check_RI, comma.window.txt_leftRIReading, "1,544");
+    comma.click(comma.window.btn_search);
+    EXPECT_EQ(comma.tableRows(), (Rows{{"2", "Amethyst"}, {"1", "Quartz"}}));
+    EXPECT_EQ(comma.window.txt_RI.text(), "1,544-1,553");
+    EXPECT_TRUE(comma.alerts().empty());
+
+    Dictionary point;
+    point.click(point.window.check_RI);
+    point.window.txt_leftRIReading.setText("1,544"); // past the entry checks, as Enter sets it
+    point.click(point.window.btn_search);
+    EXPECT_EQ(point.alerts(), Texts{"Please insert number only!"});
+    EXPECT_EQ(point.window.txt_leftRIReading.text(), "");
+}
+
+TEST(Search, EveryPresenceIsCheckedBeforeAnyNumberIsRead) {
+    Dictionary h;
+    h.click(h.window.check_RI);
+    h.click(h.window.check_sg);
+    h.click(h.window.btn_search);
+    EXPECT_EQ(h.alerts(), Texts{"Please enter R.I. value!"});
+
+    Dictionary later;
+    later.enter(later.window.check_RI, later.window.txt_leftRIReading, "1.5.4");
+    later.click(later.window.check_hardness);
+    later.click(later.window.btn_search);
+    EXPECT_EQ(later.alerts(), Texts{"Please enter Hardness value!"});
+    EXPECT_EQ(later.window.txt_leftRIReading.text(), "1.5.4");
+
+    Dictionary name;
+    name.click(name.window.check_Name);
+    name.click(name.window.btn_search);
+    EXPECT_EQ(name.alerts(), Texts{"Please enter name of stone!"});
+}
+
+TEST(Search, AnInvalidNumberEmptiesOnlyItsEntryAndLeavesTheListAsItWas) {
+    for (const char* invalid : {"1.5.4", "."}) {
+        Dictionary h;
+        h.enter(h.window.check_RI, h.window.txt_leftRIReading, "1.6");
+        h.enter(h.window.check_sg, h.window.txt_leftSG, invalid);
+        h.click(h.window.btn_search);
+        EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"}) << invalid;
+        EXPECT_EQ(h.window.txt_leftSG.text(), "");
+        EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.6");
+        EXPECT_EQ(h.tableRows().size(), reference.size());
+        EXPECT_EQ(h.window.lbl_stonesCount.text(), std::to_string(reference.size()));
+    }
+}
+
+TEST(Search, NothingFoundShowsTheEmptyListBeforeTheAlert) {
+    Dictionary h;
+    h.enter(h.window.check_hardness, h.window.txt_leftHardness, "10");
+    std::string countDuringAlert;
+    h.alertPresenter.whileShown = [&] {
+        countDuringAlert = h.window.lbl_stonesCount.text();
+    };
+    h.click(h.window.btn_search);
+    EXPECT_EQ(countDuringAlert, "0");
+    EXPECT_EQ(h.alertPresenter.alerts.at(0).message, "Result");
+    EXPECT_EQ(h.alerts(), Texts{"Not Found in Record"});
+    EXPECT_EQ(h.window.tableView.numberOfRows(), 0);
+    EXPECT_EQ(h.window.txt_RI.text(), "");
+}
+
+TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptiedAndATagOutsideTheFiveDoesNothing) {
     WindowHarness h({.rows = reference});
     MainWindow& w = h.window;
     h.click(w.bvtn_dictionary);
     h.click(w.check_sg);
-    EXPECT_TRUE(w.txt_leftSG.isEnabled());
-    EXPECT_TRUE(h.state().isSGState);
+    EXPECT_TRUE(w.txt_leftSG.isEnabled() && h.state().isSGState);
     h.type(w.txt_leftSG, "2.65");
     h.click(w.check_sg);
-    EXPECT_FALSE(w.txt_leftSG.isEnabled());
+    EXPECT_FALSE(w.txt_leftSG.isEnabled() || h.state().isSGState);
     EXPECT_EQ(w.txt_leftSG.text(), "");
-    EXPECT_FALSE(h.state().isSGState);
     h.click(w.check_sg);
     EXPECT_EQ(w.txt_leftSG.text(), "");
-}
+    h.click(w.check_sg);
 
-TEST(CheckBoxes, ATagOutsideTheFiveDoesNothing) {
-    WindowHarness h({.rows = reference});
-    h.click(h.window.bvtn_dictionary);
     for (int tag : {5, -1}) {
-        h.window.check_sg.setTag(tag);
-        h.click(h.window.check_sg);
+        w.check_sg.setTag(tag);
+        h.click(w.check_sg);
         EXPECT_FALSE(anyCriterionOn(h.state()));
-        EXPECT_FALSE(h.window.txt_leftSG.isEnabled());
+        EXPECT_FALSE(w.txt_leftSG.isEnabled());
     }
 }
 
-TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearches) {
+TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearchesWithTheOtherCriteria) {
     WindowHarness h({.rows = reference, .decimalSeparator = ","});
     MainWindow& w = h.window;
     w.usb_device_reading.setText("1,550");
@@ -71,12 +149,10 @@ TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearches) {
     EXPECT_TRUE(h.state().isRIState);
     EXPECT_EQ(w.check_RI.state(), ButtonState::On);
     EXPECT_FALSE(w.check_RI.isEnabled());
-    EXPECT_TRUE(w.check_sg.isEnabled() && w.check_Name.isEnabled());
-    EXPECT_TRUE(w.btn_search.isEnabled());
+    EXPECT_TRUE(w.check_sg.isEnabled() && w.check_Name.isEnabled() && w.btn_search.isEnabled());
     EXPECT_EQ(h.tableRows(), (Rows{{"2", "Amethyst"}, {"1", "Quartz"}}));
     EXPECT_TRUE(h.alerts().empty());
 
-    // Narrowed by another criterion, then Enter again with a new reading.
     h.click(w.check_color);
     h.pick(w.btn_color, "Pink");
     w.usb_device_reading.setText("1,545");
@@ -85,53 +161,36 @@ TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearches) {
     EXPECT_EQ(h.tableRows(), (Rows{{"1", "Quartz"}}));
 }
 
-TEST(Reset, MakesEveryCriterionUnavailableButKeepsTheResultsAndTheColour) {
+TEST(ResetAndClearAll, ResetKeepsTheResultsAndTheColourWhereClearAllEmptiesOrRepeatsTheSearch) {
     WindowHarness h({.rows = reference});
     MainWindow& w = h.window;
     w.usb_device_reading.setText("1.544");
     h.click(w.btn_enter);
     h.click(w.check_color);
     h.pick(w.btn_color, "Blue");
-    h.click(w.btn_reset);
-    expectUnavailable(w);
-    EXPECT_EQ(w.view_color.backgroundColor(), Rgba::gray(0, 0));
-    EXPECT_FALSE(anyCriterionOn(h.state()));
-    EXPECT_EQ(h.state().selectedColor, "Blue");
-    EXPECT_EQ(h.tableRows().size(), 2u);
-    EXPECT_EQ(w.lbl_stonesCount.text(), "2");
-    h.click(w.btn_reset);
-    expectUnavailable(w);
-}
-
-TEST(ClearAll, InTheReadingTabEmptiesTheResults) {
-    WindowHarness h({.rows = reference});
-    MainWindow& w = h.window;
-    w.usb_device_reading.setText("1.544");
-    h.click(w.btn_enter);
+    for (int twice = 0; twice < 2; ++twice) {
+        h.click(w.btn_reset);
+        expectCleared(w, false);
+        EXPECT_EQ(w.view_color.backgroundColor(), Rgba::gray(0, 0));
+        EXPECT_FALSE(anyCriterionOn(h.state()));
+        EXPECT_EQ(h.state().selectedColor, "Blue");
+        EXPECT_EQ(h.tableRows().size(), 2u);
+        EXPECT_EQ(w.lbl_stonesCount.text(), "2");
+    }
     h.click(w.btn_clearAll);
-    expectUnavailable(w); // the reading tab's own reset, after Clear all's
+    expectCleared(w, false);
     EXPECT_EQ(w.tableView.numberOfRows(), 0);
     EXPECT_EQ(w.lbl_stonesCount.text(), "0");
-    EXPECT_FALSE(anyCriterionOn(h.state()));
-}
 
-TEST(ClearAll, InTheDictionaryRepeatsTheSearchAndLeavesTheBoxesAvailable) {
-    WindowHarness h({.rows = reference});
-    MainWindow& w = h.window;
+    // In the dictionary, Clear all runs the tab's whole sequence again.
     h.click(w.bvtn_dictionary);
     h.click(w.check_Name);
     h.type(w.txt_left_name, "quartz");
     h.click(w.btn_search);
     ASSERT_EQ(h.tableRows().size(), 1u);
     h.click(w.btn_clearAll);
-    EXPECT_EQ(h.tableRows().size(), 3u);
-    EXPECT_EQ(w.txt_left_name.text(), "");
-    EXPECT_FALSE(w.txt_left_name.isEnabled());
-    for (const Button* box :
-         {&w.check_RI, &w.check_sg, &w.check_hardness, &w.check_color, &w.check_Name}) {
-        EXPECT_TRUE(box->isEnabled());
-        EXPECT_EQ(box->state(), ButtonState::Off);
-    }
+    EXPECT_EQ(h.tableRows().size(), reference.size());
+    expectCleared(w, true);
 }
 
 } // namespace

@@ -2,13 +2,17 @@
 
 // The USB side of the instrument session as a test scripts it: whether the instrument is plugged
 // in and what it calls itself; every report the host sends it, byte by byte; and the instrument's
-// input reports, attach and removal, delivered to the managers that are scheduled, as the HID
-// layer delivers them on the run loop.
+// input reports, attach and removal, delivered to the newest manager while it is scheduled, as
+// the HID layer delivers them on the run loop.
 
 #include "device/hid_device_connector.h"
 #include "foundation/value.h"
 
+#include <algorithm>
+#include <cassert>
 #include <cstdint>
+#include <gtest/gtest.h>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,12 +25,10 @@ struct SentReport {
     bool operator==(const SentReport&) const = default;
 };
 
-class FakeHidManager;
-
 class FakeHidBus {
 public:
     FakeHidBus() = default;
-    ~FakeHidBus();
+    ~FakeHidBus() { assert(live_ == 0 && "a manager outlives its bus"); }
     FakeHidBus(const FakeHidBus&) = delete;
     FakeHidBus& operator=(const FakeHidBus&) = delete;
 
@@ -35,33 +37,123 @@ public:
     std::optional<std::string> productName = "Velmora Refractometer";
 
     // Each manager it makes sees this bus; the bus must outlive them.
-    HIDDeviceConnector::ManagerFactory managerFactory();
+    HIDDeviceConnector::ManagerFactory managerFactory() {
+        return [this] {
+            return std::make_unique<Manager>(*this);
+        };
+    }
 
     const std::vector<SentReport>& sentReports() const { return sent_; }
     // How many reports began with these bytes.
-    std::size_t countSent(std::uint8_t byte0, std::uint8_t byte1) const;
-
-    // Every call the managers received, in order: "create", "schedule", "open",
-    // "match 04d8:f9ff", "copyDevices", "registerInput", "product", "registerMatching",
-    // "registerRemoval", "unregisterMatching", "unregisterRemoval", "unschedule", "destroy".
+    std::size_t countSent(std::uint8_t byte0, std::uint8_t byte1) const {
+        return std::ranges::count_if(sent_, [&](const SentReport& r) {
+            return r.bytes.size() >= 2 && r.bytes[0] == byte0 && r.bytes[1] == byte1;
+        });
+    }
+    // Every call the managers received, in order: "schedule", "open", "copyDevices",
+    // "registerMatching", "unregisterRemoval", "unschedule", ...
     const std::vector<std::string>& calls() const { return calls_; }
-    std::size_t liveManagers() const { return managers_.size(); }
+    std::size_t liveManagers() const { return live_; }
 
-    // The instrument sends an input report to every open device.
-    void sendInputReport(const Bytes& report);
+    // The instrument sends an input report to the open device.
+    void sendInputReport(const Bytes& report) {
+        if (auto* manager = scheduledManager(); manager && manager->device) {
+            const auto input = manager->device->input; // a copy: it may drop the manager
+            if (input) {
+                input(report);
+            }
+        }
+    }
     // The instrument is plugged in / pulled out.
-    void attach();
-    void unplug();
+    void attach() {
+        instrumentAttached = true;
+        if (auto* manager = scheduledManager()) {
+            deliver(manager->matching);
+        }
+    }
+    void unplug() {
+        instrumentAttached = false;
+        if (auto* manager = scheduledManager()) {
+            manager->device.reset();
+            deliver(manager->removal);
+        }
+    }
 
 private:
-    friend class FakeHidManager;
-    friend class FakeHidDevice;
+    struct Device final : HidDevice {
+        explicit Device(FakeHidBus& bus) : bus(bus) {}
+        void registerInputReportCallback(InputReportCallback callback) override {
+            input = std::move(callback);
+        }
+        std::optional<std::string> productProperty() const override { return bus.productName; }
+        void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
+            bus.sent_.push_back({reportId, Bytes(report.begin(), report.end())});
+        }
 
-    template <typename Deliver> void forEachScheduledManager(Deliver deliver);
+        FakeHidBus& bus;
+        InputReportCallback input;
+    };
+
+    struct Manager final : HidManager {
+        explicit Manager(FakeHidBus& bus) : bus(bus) {
+            bus.newest_ = this;
+            ++bus.live_;
+        }
+        ~Manager() override {
+            --bus.live_;
+            if (bus.newest_ == this) {
+                bus.newest_ = nullptr;
+            }
+        }
+
+        void scheduleWithRunLoop(RunLoop&) override {
+            bus.calls_.emplace_back("schedule");
+            scheduled = true;
+        }
+        void unscheduleFromRunLoop() override {
+            bus.calls_.emplace_back("unschedule");
+            scheduled = false;
+        }
+        void open() override { bus.calls_.emplace_back("open"); }
+        void setDeviceMatching(HidMatching matching) override {
+            EXPECT_TRUE((matching == HidMatching{0x04D8, 0xF9FF})) << "not the instrument";
+        }
+        std::vector<std::shared_ptr<HidDevice>> copyDevices() override {
+            bus.calls_.emplace_back("copyDevices");
+            if (bus.instrumentAttached && !device) {
+                device = std::make_shared<Device>(bus);
+            }
+            return bus.instrumentAttached ? std::vector<std::shared_ptr<HidDevice>>{device}
+                                          : std::vector<std::shared_ptr<HidDevice>>{};
+        }
+        void registerDeviceMatchingCallback(DeviceCallback callback) override {
+            bus.calls_.emplace_back(callback ? "registerMatching" : "unregisterMatching");
+            matching = std::move(callback);
+        }
+        void registerDeviceRemovalCallback(DeviceCallback callback) override {
+            bus.calls_.emplace_back(callback ? "registerRemoval" : "unregisterRemoval");
+            removal = std::move(callback);
+        }
+
+        FakeHidBus& bus;
+        bool scheduled = false;
+        std::shared_ptr<Device> device;
+        DeviceCallback matching;
+        DeviceCallback removal;
+    };
+
+    Manager* scheduledManager() const { return newest_ && newest_->scheduled ? newest_ : nullptr; }
+    // A copy: the callback may drop the manager that holds it.
+    static void deliver(HidManager::DeviceCallback callback) {
+        if (callback) {
+            callback();
+        }
+    }
 
     std::vector<SentReport> sent_;
     std::vector<std::string> calls_;
-    std::vector<FakeHidManager*> managers_;
+    Manager* newest_ = nullptr;
+    std::size_t live_ = 0;
 };
 
 } // namespace velmora::test

@@ -2,17 +2,19 @@
 
 // Scripted HID devices for the HID watchers. The test plugs and unplugs devices and has them send
 // input reports; every output report a device is sent is recorded. run() first reports the
-// matching devices already plugged in; then it and later() are those of ScriptedDeliveries.
+// matching devices already plugged in, then plays the test's later() steps in order, then waits
+// for stop(); from the start of run() on, plugging, unplugging and sending are delivered at once.
+// A test that calls stop() first has the whole script played on its own thread.
 
 #include "device/hid_watcher.h"
 #include "foundation/value.h"
-#include "tests/support/scripted_deliveries.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,46 +33,116 @@ struct FakeHidDeviceDescription {
     Value locationId{};
 };
 
-// One output report as the device received it: the identifier, then the rest.
-struct FakeSentReport {
-    std::uint8_t reportId = 0;
-    Bytes bytes;
-    bool operator==(const FakeSentReport&) const = default;
-};
-
 class FakeHidWatcher final : public HidWatcher {
 public:
-    void setDeviceMatchingMultiple(std::vector<HIDMonitorData> criteria) override;
-    void registerDeviceMatchingCallback(DeviceCallback callback) override;
-    void registerDeviceRemovalCallback(DeviceCallback callback) override;
-    void run() override;
-    void stop() override;
+    void setDeviceMatchingMultiple(std::vector<HIDMonitorData> criteria) override {
+        criteria_ = std::move(criteria);
+    }
+    void registerDeviceMatchingCallback(DeviceCallback callback) override {
+        attached_ = std::move(callback);
+    }
+    void registerDeviceRemovalCallback(DeviceCallback callback) override {
+        removed_ = std::move(callback);
+    }
+    void run() override {
+        running_ = true;
+        for (const auto& device : std::vector(plugged_)) { // the initial drain
+            if (reported(*device)) {
+                attached_(device);
+            }
+        }
+        for (const auto& step : steps_) {
+            step();
+        }
+        stopped_.wait(false);
+        running_ = false;
+    }
+    // Safe from any thread.
+    void stop() override {
+        stopped_ = true;
+        stopped_.notify_all();
+    }
 
-    void plug(const FakeHidDeviceDescription& description);
-    void unplug(const std::string& path);
-    // The device sends a report; it reaches its input callback if the device was reported.
-    void sendInputReport(const std::string& path, Bytes report);
-    void later(std::function<void()> step) { deliveries_.later(std::move(step)); }
+    void plug(const FakeHidDeviceDescription& description) {
+        plugged_.push_back(std::make_shared<Device>(description, sent_[description.path]));
+        if (reported(*plugged_.back())) {
+            attached_(plugged_.back());
+        }
+    }
+    void unplug(const std::string& path) {
+        const auto found =
+            std::ranges::find(plugged_, path, [](auto& d) { return d->description.path; });
+        if (found != plugged_.end()) {
+            const auto device = *found;
+            plugged_.erase(found);
+            if (reported(*device)) {
+                removed_(device);
+            }
+        }
+    }
+    // Reaches the device's input callback if the device was reported.
+    void sendInputReport(const std::string& path, const Bytes& report) {
+        for (const auto& device : plugged_) {
+            if (device->description.path == path && device->input) {
+                device->input(report);
+            }
+        }
+    }
+    void later(std::function<void()> step) { steps_.push_back(std::move(step)); }
 
-    // The criteria given last, as the watcher received them.
-    std::vector<HIDMonitorData> criteria();
-    std::vector<FakeSentReport> sentTo(const std::string& path);
+    // Each output report the device was sent: the report identifier, then the rest.
+    std::vector<Bytes> sentTo(const std::string& path) { return sent_[path]; }
 
 private:
-    class Device;
+    struct Device final : WatchedHidDevice {
+        Device(FakeHidDeviceDescription description, std::vector<Bytes>& sent)
+            : description(std::move(description)), sent(sent) {}
 
-    // With mutex_ held.
-    bool matches(const FakeHidDeviceDescription& description) const;
+        void registerInputReportCallback(InputReportCallback callback) override {
+            input = std::move(callback);
+        }
+        std::optional<std::string> productProperty() const override { return description.product; }
+        void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
+            sent.push_back(Bytes{reportId});
+            sent.back().insert(sent.back().end(), report.begin(), report.end());
+        }
+        Value property(const std::string& key) const override {
+            const auto& d = description;
+            if (key == "LocationID") {
+                return d.locationId.isNone() ? Value(d.path) : d.locationId;
+            }
+            if (key == "VendorID" || key == "ProductID") {
+                return int{key == "VendorID" ? d.vendorId : d.productId};
+            }
+            if (key == "Product" && d.product) {
+                return *d.product;
+            }
+            if (key == "MaxInputReportSize" && d.maxInputReportSize) {
+                return *d.maxInputReportSize;
+            }
+            return {};
+        }
 
-    std::mutex mutex_;
+        const FakeHidDeviceDescription description;
+        std::vector<Bytes>& sent;
+        InputReportCallback input;
+    };
+
+    bool reported(const Device& device) const {
+        const auto& d = device.description;
+        return running_ && std::ranges::any_of(criteria_, [&](const HIDMonitorData& c) {
+                   return c.matches(d.vendorId, d.productId, d.usagePage, d.usage);
+               });
+    }
+
     std::vector<HIDMonitorData> criteria_;
     DeviceCallback attached_;
     DeviceCallback removed_;
-    // Plugged in, in plugging order; reported once run() has begun.
-    std::vector<std::shared_ptr<Device>> plugged_;
-    std::map<std::string, std::vector<FakeSentReport>> sent_;
+    std::vector<std::shared_ptr<Device>> plugged_; // in plugging order
+    std::map<std::string, std::vector<Bytes>> sent_;
     bool running_ = false;
-    ScriptedDeliveries deliveries_;
+    std::vector<std::function<void()>> steps_;
+    std::atomic<bool> stopped_{false};
 };
 
 } // namespace velmora::test

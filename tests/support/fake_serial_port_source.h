@@ -5,27 +5,35 @@
 
 #include "device/serial_port_source.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace velmora::test {
 
 // A USB serial adapter's port, with made-up but plausible details.
-SerialDevice usbSerialPort(std::string path, std::int64_t vendorId, std::int64_t productId);
-// A port with no USB hardware behind it.
-SerialDevice plainPort(std::string path);
+inline SerialDevice usbSerialPort(std::string path, std::int64_t vendorId, std::int64_t productId) {
+    return {std::move(path), "USB Serial", "Maker", "SN" + std::to_string(productId),
+            vendorId,        productId};
+}
 
 class FakeSerialPortSource final : public SerialPortSource {
 public:
-    explicit FakeSerialPortSource(std::vector<std::vector<SerialDevice>> snapshots = {},
-                                  std::function<void(std::size_t call)> onCall = {});
+    explicit FakeSerialPortSource(std::vector<std::vector<SerialDevice>> snapshots,
+                                  std::function<void(std::size_t call)> onCall = {})
+        : snapshots_(std::move(snapshots)), onCall_(std::move(onCall)) {}
 
-    std::vector<SerialDevice> availablePorts() override;
-    std::size_t calls() const { return calls_; }
+    std::vector<SerialDevice> availablePorts() override {
+        ++calls_;
+        auto snapshot = snapshots_.empty() ? std::vector<SerialDevice>{}
+                                           : snapshots_[std::min(calls_, snapshots_.size()) - 1];
+        if (onCall_) {
+            onCall_(calls_);
+        }
+        return snapshot;
+    }
 
 private:
     std::vector<std::vector<SerialDevice>> snapshots_;

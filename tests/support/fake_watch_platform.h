@@ -1,12 +1,11 @@
 #pragma once
 
-// Puts fakes in the place of the machine's devices for `velmora-cli watch`, and gives the test the
-// command's stop, for as long as it lives.
+// Puts fakes in the place of the machine's devices for `velmora-cli watch` for as long as it
+// lives, and ends the watch once the fakes' script has played.
 
 #include "app/cli/watch_platform.h"
 #include "tests/support/fake_hid_watcher.h"
 #include "tests/support/fake_serial_port_source.h"
-#include "tests/support/fake_usb_watcher.h"
 
 #include <cstddef>
 #include <functional>
@@ -16,25 +15,47 @@ namespace velmora::test {
 
 class FakeWatchPlatform {
 public:
-    FakeWatchPlatform();
+    FakeWatchPlatform() : saved_(cli::watchPlatform()) {
+        cli::watchPlatform().endOn = [this](cli::StopSignal& stop) {
+            stop_ = &stop;
+            return std::shared_ptr<void>();
+        };
+    }
+    ~FakeWatchPlatform() { cli::watchPlatform() = saved_; }
     FakeWatchPlatform(const FakeWatchPlatform&) = delete;
     FakeWatchPlatform& operator=(const FakeWatchPlatform&) = delete;
-    ~FakeWatchPlatform();
 
-    // The serial ports take these snapshots; the watch is told to end at the call numbered
-    // endAtCall.
-    void serialSnapshots(std::vector<std::vector<SerialDevice>> snapshots, std::size_t endAtCall);
+    // The serial ports take these snapshots, and the watch ends at the poll numbered endAtPoll.
+    void serialSnapshots(std::vector<std::vector<SerialDevice>> snapshots, std::size_t endAtPoll) {
+        cli::watchPlatform().serialPorts = [this, snapshots, endAtPoll] {
+            return std::make_unique<FakeSerialPortSource>(snapshots, [this, endAtPoll](auto poll) {
+                if (poll == endAtPoll) {
+                    stop_->request();
+                }
+            });
+        };
+    }
 
-    // The bus holds these devices; once they are reported, script runs on the watcher, then the
-    // watch is told to end.
-    void usbDevices(std::vector<FakeUsbDevice> devices,
-                    std::function<void(FakeUsbWatcher&)> script = {});
-
-    // The same for HID devices; what the watcher's adapter would tell goes to its diagnostics.
+    // The HID devices plugged in; once they are reported, the script plays on their watcher.
     void hidDevices(std::vector<FakeHidDeviceDescription> devices,
-                    std::function<void(FakeHidWatcher&)> script = {});
+                    std::function<void(FakeHidWatcher&)> script = {}) {
+        cli::watchPlatform().hidWatcher = [this, devices, script](std::ostream&) {
+            auto watcher = std::make_unique<FakeHidWatcher>();
+            for (const auto& device : devices) {
+                watcher->plug(device);
+            }
+            watcher->later([bus = watcher.get(), script, this] {
+                if (script) {
+                    script(*bus);
+                }
+                stop_->request();
+            });
+            return watcher;
+        };
+    }
 
-    void keepRealInterrupts();
+    // Ctrl-C and SIGTERM end the watch, as they do outside the tests.
+    void keepRealInterrupts() { cli::watchPlatform().endOn = saved_.endOn; }
 
 private:
     cli::WatchPlatform saved_;

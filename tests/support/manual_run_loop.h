@@ -7,8 +7,10 @@
 
 #include "foundation/run_loop.h"
 
+#include <algorithm>
+#include <cassert>
 #include <chrono>
-#include <cstdint>
+#include <condition_variable>
 #include <deque>
 #include <map>
 #include <mutex>
@@ -17,17 +19,60 @@ namespace velmora::test {
 
 class ManualRunLoop final : public RunLoop {
 public:
-    void post(Task task) override;
-    TimerId scheduleRepeating(std::chrono::milliseconds interval, Task task) override;
-    void cancel(TimerId id) override;
+    // May come from another thread.
+    void post(Task task) override {
+        const std::lock_guard lock(mutex_);
+        queue_.push_back(std::move(task));
+        ++posts_;
+        posted_.notify_all();
+    }
+    // Waits until that many tasks were posted in all, as a worker thread posts them; false after
+    // a few seconds without.
+    bool waitForPosts(std::size_t count) {
+        std::unique_lock lock(mutex_);
+        return posted_.wait_for(lock, std::chrono::seconds(5), [&] { return posts_ >= count; });
+    }
+    TimerId scheduleRepeating(std::chrono::milliseconds interval, Task task) override {
+        assert(interval.count() > 0);
+        timers_.emplace(next_, Timer{interval, now_ + interval, std::move(task)});
+        return next_++;
+    }
+    void cancel(TimerId id) override { timers_.erase(id); }
 
-    // Runs queued tasks until none is left; returns how many ran.
-    std::size_t runPending();
-    void advance(std::chrono::milliseconds by);
+    // Runs queued tasks until none is left.
+    void runPending() {
+        for (;;) {
+            std::unique_lock lock(mutex_);
+            if (queue_.empty()) {
+                return;
+            }
+            const Task task = std::move(queue_.front());
+            queue_.pop_front();
+            lock.unlock();
+            task();
+        }
+    }
 
-    std::chrono::milliseconds now() const { return now_; }
+    void advance(std::chrono::milliseconds by) {
+        const auto end = now_ + by;
+        runPending();
+        for (;;) {
+            // The earliest due timer; ties fire in the order they were scheduled.
+            const auto next =
+                std::ranges::min_element(timers_, {}, [](auto& timer) { return timer.second.due; });
+            if (next == timers_.end() || next->second.due > end) {
+                break;
+            }
+            now_ = next->second.due;
+            next->second.due += next->second.interval;
+            const Task task = next->second.task; // a copy: the task may cancel its own timer
+            task();
+            runPending();
+        }
+        now_ = end;
+    }
+
     std::size_t activeTimers() const { return timers_.size(); }
-    std::size_t pendingTasks();
 
 private:
     struct Timer {
@@ -36,7 +81,9 @@ private:
         Task task;
     };
 
-    std::mutex mutex_; // post() may come from another thread
+    std::mutex mutex_;
+    std::condition_variable posted_;
+    std::size_t posts_ = 0;
     std::deque<Task> queue_;
     std::map<TimerId, Timer> timers_;
     TimerId next_ = 1;

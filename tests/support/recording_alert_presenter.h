@@ -20,19 +20,26 @@ struct RecordedAlert {
 class RecordingAlertPresenter final : public AlertPresenter {
 public:
     std::size_t runModal(const std::string& message, const std::string& informative,
-                         AlertStyle style, const std::vector<std::string>& buttons) override;
+                         AlertStyle style, const std::vector<std::string>& buttons) override {
+        alerts.push_back({message, informative, style, buttons});
+        if (whileShown) {
+            whileShown();
+        }
+        return 0;
+    }
 
-    // Runs while the alert is up, before it is answered: what the user sees behind it.
-    void whileShown(std::function<void()> look) { whileShown_ = std::move(look); }
-
-    const std::vector<RecordedAlert>& alerts() const { return alerts_; }
     // The informative texts, in the order shown.
-    std::vector<std::string> informativeTexts() const;
-    void clear() { alerts_.clear(); }
+    std::vector<std::string> informativeTexts() const {
+        std::vector<std::string> texts;
+        for (const auto& alert : alerts) {
+            texts.push_back(alert.informative);
+        }
+        return texts;
+    }
 
-private:
-    std::vector<RecordedAlert> alerts_;
-    std::function<void()> whileShown_;
+    std::vector<RecordedAlert> alerts;
+    // Runs while the alert is up, before it is answered: what the user sees behind it.
+    std::function<void()> whileShown;
 };
 
 } // namespace velmora::test

@@ -13,11 +13,20 @@ inline constexpr const char* referenceHeader =
     "Description2,Description3,Color1,Color2,Color3,Color4,Color5,Color6";
 
 // Cells by column index; the rest are empty, except NEW (16) which is "1" unless given.
-std::string row(const std::map<int, std::string>& cells);
+inline std::string row(std::map<int, std::string> cells) {
+    cells.try_emplace(16, "1");
+    std::string line = cells[0];
+    for (int i = 1; i < 28; ++i) {
+        line += ',' + cells[i];
+    }
+    return line;
+}
 
 // A row with the usual cells of a stone.
-std::string stoneRow(const std::string& id, const std::string& name, const std::string& ri = "",
-                     const std::string& sg = "", const std::string& hardness = "",
-                     const std::string& color1 = "");
+inline std::string stoneRow(const std::string& id, const std::string& name,
+                            const std::string& ri = "", const std::string& sg = "",
+                            const std::string& hardness = "", const std::string& color1 = "") {
+    return row({{0, id}, {1, name}, {5, sg}, {6, ri}, {9, hardness}, {22, color1}});
+}
 
 } // namespace velmora::test

@@ -8,12 +8,12 @@
 #include "device/hid_device_connector.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/recording_alert_presenter.h"
-#include "tests/support/recording_instrument_link.h"
 #include "tests/support/recording_log.h"
-#include "tests/support/recording_screens.h"
+#include "tests/support/reference_text.h"
 #include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 #include "ui/main_window.h"
+#include "ui/screen_presenter.h"
 #include "ui/view_controller.h"
 
 #include <memory>
@@ -37,25 +37,82 @@ struct WindowSetup {
     std::optional<HIDDeviceConnector::ManagerFactory> instrumentManagers = std::nullopt;
 };
 
+// Which modal screens the window asked for, in order.
+struct RecordingScreens final : ScreenPresenter {
+    void presentTutorialScreen() override { presented.push_back("tutorial"); }
+    void presentContactScreen() override { presented.push_back("contact"); }
+    std::vector<std::string> presented;
+};
+
+struct CountingInstrumentLink final : InstrumentLink {
+    void connectDataToDevice() override { ++connects; }
+    void disconnectDataToDevice() override { ++disconnects; }
+    int connects = 0;
+    int disconnects = 0;
+};
+
 class WindowHarness {
 public:
-    explicit WindowHarness(WindowSetup setup = {});
+    explicit WindowHarness(WindowSetup setup = {})
+        : locale(setup.decimalSeparator),
+          connector(setup.instrumentManagers
+                        ? std::make_unique<HIDDeviceConnector>(*setup.instrumentManagers, runLoop,
+                                                               notificationCenter, log)
+                        : nullptr),
+          controller(window, {runLoop, notificationCenter, alertPresenter, locale,
+                              setup.rows ? std::optional(dir.write("AllStoneNew.csv",
+                                                                   referenceText(*setup.rows)))
+                                         : std::nullopt,
+                              standardOutput, screens,
+                              connector ? static_cast<InstrumentLink&>(*connector) : instrument}) {
+        if (setup.loadView) {
+            controller.viewDidLoad();
+            runQueued();
+        }
+    }
 
-    // Gestures
-    void type(TextField& entry, std::string_view text); // focus the entry, type one by one
-                                                        // (nothing if it cannot take focus)
-    void deleteBackward();                              // in the focused entry
-    void leave();                                       // take the focus from the entry
-    void click(Button& button);                         // push buttons and check boxes alike
-    void pick(PopUpButton& popUp, std::string_view title);
-    void clickRow(int row);
+    // Gestures. Typing focuses the entry and types one character at a time (nothing if the entry
+    // cannot take the focus); leaving takes the focus from it; clicking serves push buttons and
+    // check boxes alike.
+    void type(TextField& entry, std::string_view text) {
+        if (window.makeFirstResponder(&entry)) {
+            window.insertText(text);
+        }
+        runQueued();
+    }
+    void deleteBackward() {
+        window.deleteBackward();
+        runQueued();
+    }
+    void leave() {
+        window.makeFirstResponder(nullptr);
+        runQueued();
+    }
+    void click(Button& button) {
+        button.performClick();
+        runQueued();
+    }
+    void pick(PopUpButton& popUp, std::string_view title) {
+        popUp.pickItem(popUp.indexOfItem(title));
+        runQueued();
+    }
+    void clickRow(int row) {
+        window.tableView.clickRow(row);
+        runQueued();
+    }
     void runQueued() { runLoop.runPending(); }
 
     const ViewControllerState& state() const { return controller.state(); }
     std::vector<std::string> alerts() const { return alertPresenter.informativeTexts(); }
     // What the table shows: the number and the name of each row.
-    std::vector<std::pair<std::string, std::string>> tableRows();
-    std::vector<std::string> popUpTitles() const { return window.btn_stonesList.itemTitles(); }
+    std::vector<std::pair<std::string, std::string>> tableRows() {
+        std::vector<std::pair<std::string, std::string>> rows;
+        for (int row = 0; row < window.tableView.numberOfRows(); ++row) {
+            rows.emplace_back(cellText(window.tableView, 0, row).value_or("?"),
+                              cellText(window.tableView, 1, row).value_or("?"));
+        }
+        return rows;
+    }
 
     TempDir dir;
     ManualRunLoop runLoop;
@@ -64,7 +121,7 @@ public:
     SettableLocale locale;
     std::ostringstream standardOutput;
     RecordingScreens screens;
-    RecordingInstrumentLink instrument;
+    CountingInstrumentLink instrument;
     RecordingLog log;
     std::unique_ptr<HIDDeviceConnector> connector; // with WindowSetup::instrumentManagers
     MainWindow window;

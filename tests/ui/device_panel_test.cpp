@@ -1,3 +1,7 @@
+#include "device/sim/replayed_readings.h"
+#include "device/sim/simulated_instrument.h"
+#include "tests/support/fake_hid.h"
+#include "tests/support/reference_rows.h"
 #include "tests/support/window_harness.h"
 #include "ui/system_colors.h"
 
@@ -5,6 +9,10 @@
 
 namespace velmora::test {
 namespace {
+
+using namespace std::chrono_literals;
+
+const Dictionary instrument{{"ProductID", 63999}, {"VendorID", 1240}, {"name", "Velmora"}};
 
 void expectDisconnected(const MainWindow& w, const std::string& placeholder) {
     EXPECT_EQ(w.view_deviceStatus.backgroundColor(), systemColors::red);
@@ -14,51 +22,29 @@ void expectDisconnected(const MainWindow& w, const std::string& placeholder) {
     EXPECT_FALSE(w.btn_disconnected.isEnabled());
 }
 
-TEST(DevicePanel, StartsDisconnectedWithAPlaceholderInTheUsersNotation) {
-    expectDisconnected(WindowHarness().window, "1.000");
+TEST(DevicePanel, FollowsTheSessionFlagAtOnceAndThePanelAfterTheEvent) {
     expectDisconnected(WindowHarness({.decimalSeparator = ","}).window, "1,000");
-}
-
-TEST(DevicePanel, TheConnectedStateKeepsTheReadingAndIsUndoneByDisconnected) {
     WindowHarness h;
     MainWindow& w = h.window;
+    expectDisconnected(w, "1.000");
     w.usb_device_reading.setText("1.540");
-    h.controller.queueDevicePanelState(DevicePanelState::Connected);
-    EXPECT_EQ(w.lbl_deviceStatus.text(), "Disconnected"); // queued, not yet applied
+    h.notificationCenter.post("HIDDeviceConnected", Dictionary{{"device", instrument}});
+    EXPECT_TRUE(h.state().isUSBStatus);
+    EXPECT_EQ(w.lbl_deviceStatus.text(), "Disconnected");
     h.runQueued();
     EXPECT_EQ(w.view_deviceStatus.backgroundColor(), systemColors::systemGreen);
     EXPECT_EQ(w.lbl_deviceStatus.text(), "Connected");
     EXPECT_EQ(w.usb_device_reading.text(), "1.540");
     EXPECT_FALSE(w.btn_connected.isEnabled());
     EXPECT_TRUE(w.btn_disconnected.isEnabled());
-    h.controller.applyDevicePanelState(DevicePanelState::Disconnected);
-    expectDisconnected(w, "1.000");
-    EXPECT_EQ(w.view_deviceStatus.cornerRadius(), 5.0);
-}
-
-} // namespace
-} // namespace velmora::test
-
-namespace velmora::test {
-namespace {
-
-const Dictionary instrument{{"ProductID", 63999}, {"VendorID", 1240}, {"name", "Velmora"}};
-
-TEST(DevicePanelNotifications, ConnectedSetsTheFlagAtOnceAndThePanelAfterTheEvent) {
-    WindowHarness h;
-    h.notificationCenter.post("HIDDeviceConnected", Dictionary{{"device", instrument}});
-    EXPECT_TRUE(h.state().isUSBStatus);
-    EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Disconnected");
-    h.runQueued();
-    EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Connected");
 
     h.notificationCenter.post("HIDDeviceDisconnected", Dictionary{{"device", Dictionary{}}});
     EXPECT_FALSE(h.state().isUSBStatus);
     h.runQueued();
-    expectDisconnected(h.window, "1.000");
+    expectDisconnected(w, "1.000");
 }
 
-TEST(DevicePanelNotifications, AConnectedWithoutADeviceDictionaryChangesNothing) {
+TEST(DevicePanel, AConnectedWithoutADeviceDictionaryChangesNothing) {
     WindowHarness h;
     for (const Value& object : {Value(), Value("device"), Value(Dictionary{{"device", "x"}}),
                                 Value(Dictionary{{"other", instrument}})}) {
@@ -69,7 +55,7 @@ TEST(DevicePanelNotifications, AConnectedWithoutADeviceDictionaryChangesNothing)
     }
 }
 
-TEST(DevicePanelNotifications, ReadingsShowInTheUsersNotationWhateverTheState) {
+TEST(DevicePanel, ReadingsShowInTheUsersNotationWhateverTheState) {
     WindowHarness h({.decimalSeparator = ","});
     h.notificationCenter.post("HIDDeviceDataReceived", Dictionary{{"data", "1.540"}});
     EXPECT_EQ(h.window.usb_device_reading.text(), "1,540"); // at once, though disconnected
@@ -80,22 +66,7 @@ TEST(DevicePanelNotifications, ReadingsShowInTheUsersNotationWhateverTheState) {
     EXPECT_EQ(h.window.usb_device_reading.text(), ""); // not a text in a dictionary: ignored
 }
 
-// A link that answers as the session does: Connect posts HIDDeviceConnected before returning.
-class AnsweringLink final : public InstrumentLink {
-public:
-    explicit AnsweringLink(NotificationCenter& center) : center_(center) {}
-    void connectDataToDevice() override {
-        center_.post("HIDDeviceConnected", Dictionary{{"device", instrument}});
-    }
-    void disconnectDataToDevice() override {
-        center_.post("HIDDeviceDisconnected", Dictionary{{"device", Dictionary{}}});
-    }
-
-private:
-    NotificationCenter& center_;
-};
-
-TEST(DevicePanelButtons, ConnectAndDisconnectWriteTheModeAndResetTheFormOnlyInTheReadingTab) {
+TEST(DevicePanel, ConnectAndDisconnectResetTheFormOnlyInTheReadingTab) {
     WindowHarness h;
     h.click(h.window.btn_connected);
     EXPECT_EQ(h.instrument.connects, 1);
@@ -110,29 +81,54 @@ TEST(DevicePanelButtons, ConnectAndDisconnectWriteTheModeAndResetTheFormOnlyInTh
     h.type(h.window.txt_left_name, "ruby");
     h.click(h.window.btn_connected);
     EXPECT_EQ(h.window.txt_left_name.text(), "ruby"); // the dictionary keeps its form
-    EXPECT_EQ(h.standardOutput.str(), "0\n0\n1\n");
 }
 
-TEST(DevicePanelButtons, TheResetAfterConnectComesAfterTheConnectedState) {
-    WindowHarness h;
-    AnsweringLink link(h.notificationCenter);
-    MainWindow window;
-    ViewController controller(window, {h.runLoop, h.notificationCenter, h.alertPresenter, h.locale,
-                                       std::nullopt, h.standardOutput, h.screens, link});
-    controller.viewDidLoad();
-    h.runQueued();
+TEST(DevicePanel, TheResetAfterConnectComesAfterTheConnectedState) {
+    FakeHidBus bus;
+    WindowHarness h({.instrumentManagers = bus.managerFactory()});
+    MainWindow& w = h.window;
     std::vector<std::string> order;
-    window.lbl_deviceStatus.setObserver(
-        [&](Property) { order.push_back(window.lbl_deviceStatus.text()); });
-    window.check_sg.setEnabled(true);
-    window.check_sg.setObserver([&](Property) { order.push_back("reset"); });
-    window.btn_connected.performClick();
-    EXPECT_TRUE(controller.state().isUSBStatus); // before anything queued has run
+    w.lbl_deviceStatus.setObserver([&](Property) { order.push_back(w.lbl_deviceStatus.text()); });
+    w.check_sg.setEnabled(true);
+    w.check_sg.setObserver([&](Property) { order.push_back("reset"); });
+    w.btn_connected.performClick();
+    EXPECT_TRUE(h.state().isUSBStatus); // before anything queued has run
     EXPECT_TRUE(order.empty());
     h.runQueued();
     ASSERT_FALSE(order.empty());
     EXPECT_EQ(order.front(), "Connected");
     EXPECT_EQ(order.back(), "reset");
+}
+
+// The whole road on the simulated instrument: Connect, readings arriving, Enter taking the shown
+// reading into the R.I. entry, the stones whose range holds it listed, and Disconnect.
+TEST(LiveReading, ConnectReadEnterListsTheStonesThatHoldTheReading) {
+    WindowHarness h(
+        {.rows = std::vector<std::string>{stoneRow("1", "Amethyst", "1.544-1.553"),
+                                          stoneRow("2", "Aquamarine", "1.567-1.590"),
+                                          stoneRow("3", "Citrine", "1.544 - 1.553"),
+                                          stoneRow("4", "Iolite", "1.522-1.578")},
+         .instrumentManagers = sim::simulatedInstrumentFactory(
+             std::make_shared<sim::ReplayedReadings>(std::vector<std::uint16_t>{1530, 1551}))});
+    h.click(h.window.btn_connected);
+    EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Connected");
+    h.runLoop.advance(100ms);
+    EXPECT_EQ(h.window.usb_device_reading.text(), "1.530");
+    h.runLoop.advance(100ms);
+    EXPECT_EQ(h.window.usb_device_reading.text(), "1.551");
+
+    h.click(h.window.btn_enter);
+    EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.551");
+    EXPECT_EQ(h.tableRows(), (std::vector<std::pair<std::string, std::string>>{
+                                 {"1", "Amethyst"}, {"3", "Citrine"}, {"4", "Iolite"}}));
+    EXPECT_EQ(h.window.txt_RI.text(), "1.544-1.553"); // the first stone's detail
+    EXPECT_TRUE(h.alerts().empty());
+
+    h.click(h.window.btn_disconnected);
+    EXPECT_EQ(h.window.usb_device_reading.text(), "1.000");
+    h.runLoop.advance(10s);
+    EXPECT_EQ(h.window.usb_device_reading.text(), "1.000");
+    EXPECT_EQ(h.runLoop.activeTimers(), 0u);
 }
 
 } // namespace

@@ -1,3 +1,6 @@
+// `velmora-cli watch` over fake devices: each line it prints shows every field of a watcher's
+// notification, so these check the watchers and their printing at once.
+
 #include "tests/cli/cli_runner.h"
 #include "tests/support/fake_watch_platform.h"
 
@@ -12,59 +15,116 @@ using cli::watchPlatform;
 const SerialDevice ftdi = usbSerialPort("/dev/ttyUSB0", 0x0403, 0x6001);
 const SerialDevice instrument = usbSerialPort("/dev/ttyACM0", 0x04D8, 0xF9FF);
 
-TEST(WatchCommand, SerialPrintsEachPortAsItComesAndGoes) {
-    FakeWatchPlatform platform;
-    platform.serialSnapshots({{ftdi, plainPort("/dev/ttyS0")}, {instrument}}, 2);
-    const auto r = runCli({"watch", "serial", "--interval", "0"});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out,
-              "SerialDeviceAdded\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
-              "SerialDeviceAdded\t/dev/ttyS0\t\t\t\t\t\n"
-              "SerialDeviceRemoved\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
-              "SerialDeviceRemoved\t/dev/ttyS0\t\t\t\t\t\n"
-              "SerialDeviceAdded\t/dev/ttyACM0\tUSB Serial\tMaker\tSN63999\t0x04D8\t0xF9FF\n");
-    EXPECT_EQ(r.err, "");
+struct WatchCase {
+    std::function<void(FakeWatchPlatform&)> devices;
+    std::vector<std::string> args;
+    std::string out;
+    std::string err = "";
+};
+
+TEST(WatchCommand, PrintsTheDevicesPresentFirstThenEachChangeAsItComes) {
+    const std::string connected = "HIDDeviceConnected\t/dev/hidraw0\t0x04D8\t0xF9FF\t8\t"
+                                  "Velmora Refractometer\n";
+    const WatchCase cases[] = {
+        {[](auto& p) {
+             p.serialSnapshots({{ftdi, {.path = "/dev/ttyS0"}}, {instrument}}, 2);
+         },
+         {"watch", "serial", "--interval", "0"},
+         "SerialDeviceAdded\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
+         "SerialDeviceAdded\t/dev/ttyS0\t\t\t\t\t\n"
+         "SerialDeviceRemoved\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
+         "SerialDeviceRemoved\t/dev/ttyS0\t\t\t\t\t\n"
+         "SerialDeviceAdded\t/dev/ttyACM0\tUSB Serial\tMaker\tSN63999\t0x04D8\t0xF9FF\n"},
+        {[](auto& p) {
+             p.serialSnapshots({{ftdi, instrument}}, 1);
+         },
+         {"watch", "serial", "--json", "--vendor", "1240", "--product", "0xf9ff"},
+         R"({"notification":"SerialDeviceAdded","path":"/dev/ttyACM0","name":"USB Serial",)"
+         R"("vendorName":"Maker","serialNumber":"SN63999","vendorId":"0x04D8","productId":"0xF9FF"})"
+         "\n"},
+        // A "LocationID" that is a number gives an empty id; a report of n bytes, n bytes; a
+        // device that was never reported, nothing.
+        {[](auto& p) {
+             p.hidDevices({{.path = "/dev/hidraw0"},
+                           {.path = "/dev/hidraw1", .vendorId = 0x046D},
+                           {.path = "/dev/hidraw2",
+                            .product = std::nullopt,
+                            .maxInputReportSize = std::nullopt,
+                            .locationId = std::int64_t{0x14200000}}},
+                          [](FakeHidWatcher& hid) {
+                              hid.sendInputReport("/dev/hidraw0", {0x04, 0x06, 0, 0, 0, 0, 0, 0});
+                              hid.sendInputReport("/dev/hidraw0", {});
+                              hid.sendInputReport("/dev/hidraw1", {0xEE});
+                              hid.unplug("/dev/hidraw0");
+                              hid.unplug("/dev/hidraw2");
+                              hid.plug({.path = "/dev/hidraw0"});
+                          });
+         },
+         {"watch", "hid"},
+         connected + "HIDDeviceConnected\t\t0x04D8\t0xF9FF\t0\t\n" +
+             "HIDDeviceDataReceived\t04 06 00 00 00 00 00 00\n"
+             "HIDDeviceDataReceived\t\n"
+             "HIDDeviceDisconnected\t/dev/hidraw0\nHIDDeviceDisconnected\t\n" +
+             connected},
+        {[](auto& p) {
+             p.hidDevices({{.path = "/dev/hidraw3", .vendorId = 0x1234, .productId = 5},
+                           {.path = "/dev/hidraw4", .vendorId = 0x1234, .productId = 5, .usage = 2},
+                           {.path = "/dev/hidraw0"}});
+         },
+         {"--json", "watch", "hid", "--vendor", "0x1234", "--product", "5", "--usage-page",
+          "0xFF00", "--usage", "1"},
+         R"({"notification":"HIDDeviceConnected","id":"/dev/hidraw3","vendorId":"0x1234",)"
+         R"("productId":"0x0005","reportSize":"8","name":"Velmora Refractometer"})"
+         "\n"},
+        {[](auto& p) {
+             p.hidDevices({{.path = "/dev/hidraw0"}}, [](FakeHidWatcher& hid) {
+                 hid.sendInputReport("/dev/hidraw0", {0x04, 0x06, 0xFF, 0x10, 9});
+                 hid.sendInputReport("/dev/hidraw0", {0xED, 0x03});
+                 hid.unplug("/dev/hidraw0");
+             });
+         },
+         {"watch", "blink1"},
+         "Device connected\n"
+         "Senting output: [1, 110, 0, 255, 0]\n"
+         "Input received: [4, 6, 255, 16]\n"
+         "Input received: [237, 3, 0, 0]\n"
+         "Device removed\n"
+         "deviceDisconnected\tVelmora_Software.Blink1\n"},
+    };
+    for (const auto& c : cases) {
+        FakeWatchPlatform platform;
+        c.devices(platform);
+        const auto r = runCli(c.args);
+        EXPECT_EQ(r.status, 0) << c.args[1];
+        EXPECT_EQ(r.out, c.out) << c.args[1];
+        EXPECT_EQ(r.err, c.err) << c.args[1];
+    }
 }
 
-TEST(WatchCommand, SerialListsOnlyThePortsOfTheGivenIdentifiersAsJsonLines) {
+TEST(WatchCommand, RefusesBadOptionsAsUsageErrors) {
     FakeWatchPlatform platform;
-    platform.serialSnapshots({{ftdi, instrument}}, 1);
-    const auto r = runCli({"watch", "serial", "--json", "--vendor", "1240", "--product", "0xf9ff"});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, R"({"notification":"SerialDeviceAdded","path":"/dev/ttyACM0",)"
-                     R"("name":"USB Serial","vendorName":"Maker","serialNumber":"SN63999",)"
-                     R"("vendorId":"0x04D8","productId":"0xF9FF"})"
-                     "\n");
+    platform.serialSnapshots({}, 1);
+    platform.hidDevices({});
+    const std::vector<std::pair<std::vector<std::string>, std::string>> bad{
+        {{"watch", "serial", "--interval", "nan"}, ""},
+        {{"watch", "serial", "--interval", "4294.967296"}, ""},
+        {{"watch", "hid", "--vendor", "0x10000"}, ""},
+        {{"watch", "hid", "--product", "04D8"}, ""},
+        {{"watch", "printer"}, ""},
+        {{"watch", "blink1", "--vendor", "1"},
+         "--vendor applies to watch hid, usb and serial only\n"},
+        {{"watch", "serial", "--usage-page", "1"}, "--usage-page applies to watch hid only\n"},
+        {{"watch", "hid", "--interval", "1"}, "--interval applies to watch serial only\n"},
+    };
+    for (const auto& [args, message] : bad) {
+        const auto r = runCli(args);
+        EXPECT_EQ(r.status, 2) << args[1] << ' ' << args.back();
+        EXPECT_EQ(r.out, "") << args.back();
+        EXPECT_TRUE(message.empty() ? !r.err.empty() : r.err == message) << r.err;
+    }
 }
 
-TEST(WatchCommand, UsbReportsTheInstrumentByDefaultWithTheWatchersOwnLines) {
-    FakeWatchPlatform platform;
-    platform.usbDevices({{.location = 0x0301020000000000, .name = "Velmora"},
-                         {.location = 0x0302000000000000, .vendorId = 0x1234},
-                         {.location = 0x0303000000000000, .openResult = {-3, false}}},
-                        [](FakeUsbWatcher& bus) { bus.unplug(0x0301020000000000); });
-    const auto r = runCli({"watch", "usb"});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "USBDeviceConnected\t0x0301020000000000\t0x04D8\t0xF9FF\tVelmora\n"
-                     "Could not open device (error: -3)\n"
-                     "USBDeviceDisconnected\t0x0301020000000000\n");
-}
-
-TEST(WatchCommand, UsbWatchesTheGivenPairAndKeepsJsonLinesClean) {
-    FakeWatchPlatform platform;
-    platform.usbDevices(
-        {{.location = 1, .vendorId = 0x1234, .productId = 5, .name = "Probe"},
-         {.location = 2, .vendorId = 0x1234, .productId = 5, .openResult = {-3, false}},
-         {.location = 3}});
-    const auto r = runCli({"--json", "watch", "usb", "--vendor", "0x1234", "--product", "5"});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, R"({"notification":"USBDeviceConnected","id":"0x0000000000000001",)"
-                     R"("vendorId":"0x1234","productId":"0x0005","name":"Probe"})"
-                     "\n");
-    EXPECT_EQ(r.err, "Could not open device (error: -3)\n");
-}
-
-TEST(WatchCommand, ItEndsCleanlyOnSigtermAndGivesTheSignalBack) {
+TEST(WatchCommand, EndsCleanlyOnSigtermAndGivesTheSignalBack) {
     FakeWatchPlatform platform;
     platform.keepRealInterrupts();
     watchPlatform().serialPorts = [] {
@@ -81,39 +141,6 @@ TEST(WatchCommand, ItEndsCleanlyOnSigtermAndGivesTheSignalBack) {
     struct sigaction now {};
     sigaction(SIGTERM, nullptr, &now);
     EXPECT_EQ(now.sa_handler, SIG_DFL);
-}
-
-TEST(WatchCommand, RefusesBadOptionsAsUsageErrors) {
-    FakeWatchPlatform platform;
-    platform.serialSnapshots({}, 1);
-    platform.usbDevices({});
-    const std::vector<std::vector<std::string>> bad{
-        {"watch", "serial", "--interval", "nan"},
-        {"watch", "serial", "--interval=-0.5"},
-        {"watch", "serial", "--interval", "4294.967296"},
-        {"watch", "usb", "--interval", "1"},
-        {"watch", "usb", "--vendor", "0x10000"},
-        {"watch", "usb", "--product", "04D8"},
-        {"watch", "usb", "--vendor", "-1"},
-        {"watch", "printer"},
-    };
-    for (const auto& args : bad) {
-        const auto r = runCli(args);
-        EXPECT_EQ(r.status, 2) << args.back();
-        EXPECT_NE(r.err, "") << args.back();
-        EXPECT_EQ(r.out, "") << args.back();
-    }
-}
-
-TEST(WatchCommand, TellsWhyUsbCannotBeWatched) {
-    FakeWatchPlatform platform;
-    watchPlatform().usbWatcher = [](std::string& error) {
-        error = "Insufficient memory";
-        return std::unique_ptr<UsbWatcher>();
-    };
-    const auto r = runCli({"watch", "usb"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "Cannot watch USB devices: Insufficient memory\n");
 }
 
 } // namespace
