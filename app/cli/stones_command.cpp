@@ -13,7 +13,7 @@ void addStonesCommand(CLI::App& app, Context& context) {
     command->callback([&context] {
         StoneList arr_stones;
         StoneList arr_stonesGlobal;
-        if (!loadReferenceSet(context.referencePath(), *context.out, arr_stones,
+        if (!loadReferenceSet(context.referencePath(), *context.err, arr_stones,
                               arr_stonesGlobal)) {
             context.exitCode = exitAlert;
             return;

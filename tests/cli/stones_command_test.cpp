@@ -24,8 +24,9 @@ TEST(StonesCommand, UnreadableReferencePrintsTheLoadersLineAndFails) {
     TempDir dir;
     const auto r = runCli({"stones", "--reference", (dir.path() / "nope.csv").string()});
     EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.out.find("nope.csv"), std::string::npos);
-    EXPECT_EQ(r.out.find('\n'), r.out.size() - 1);
+    EXPECT_EQ(r.out, ""); // the reason goes with the errors, out of the listing's way
+    EXPECT_NE(r.err.find("nope.csv"), std::string::npos);
+    EXPECT_EQ(r.err.find('\n'), r.err.size() - 1);
 }
 
 TEST(StonesCommand, UsageErrorsExitTwo) {
