@@ -10,11 +10,11 @@ namespace velmora {
 
 struct SerialDevice {
     std::string path; // the call-out device, such as /dev/ttyUSB0
-    std::optional<std::string> name;
-    std::optional<std::string> vendorName;
-    std::optional<std::string> serialNumber;
-    std::optional<std::int64_t> vendorId;
-    std::optional<std::int64_t> productId;
+    std::optional<std::string> name = std::nullopt;
+    std::optional<std::string> vendorName = std::nullopt;
+    std::optional<std::string> serialNumber = std::nullopt;
+    std::optional<std::int64_t> vendorId = std::nullopt;
+    std::optional<std::int64_t> productId = std::nullopt;
 
     // A port is known by its path alone: one whose USB details change while its path stays is
     // the same port.

@@ -8,10 +8,10 @@
 namespace velmora::test {
 
 struct MemoryStoreSetup {
-    std::optional<std::string> loadError;
+    std::optional<std::string> loadError = std::nullopt;
     bool refusesCommit = false;
     bool hasChanges = false;
-    std::optional<std::string> saveError;
+    std::optional<std::string> saveError = std::nullopt;
 };
 
 class MemoryStore final : public PersistentStore {

@@ -27,7 +27,7 @@
 namespace velmora::test {
 
 struct ShellSetup {
-    MemoryStoreSetup store;
+    MemoryStoreSetup store = {};
     bool withTutorial = false;
 };
 
