@@ -53,10 +53,12 @@ struct Separation {
 
 TEST(ReferenceIdentification, SeparationsAGemmologistReliesOn) {
     const Separation cases[] = {
-        // Quartz against beryl, corundum, spinel against garnet, the beryls.
+        // Quartz against beryl, corundum, natural spinel against garnet and the flame-fusion
+        // synthetic (1.728), the beryls.
         {1.544, 2.65, "family Quartz", "family Beryl"},
         {1.762, 4.00, "family Corundum", ""},
-        {1.718, 3.60, "family Spinel", "family Garnet"},
+        {1.718, 3.60, "Spinel (red)|Spinel (pink)|Spinel (blue)|Flux-grown spinel",
+         "family Garnet|Synthetic spinel"},
         {1.577, 2.72, "Aquamarine|Emerald|Goshenite|Heliodor|Morganite", ""},
         // Diamond against its imitations, which part on S.G. and R.I.
         {2.418, 3.52, "Diamond", "Cubic zirconia|Synthetic moissanite|Strontium titanate"},
