@@ -6,6 +6,8 @@
 # Usage: boot_guest.sh WORK_DIR VELMORA_CLI GADGET_INSTRUMENT UDEV_RULE
 # Fails when the guest does not finish within VELMORA_SYSTEM_TIMEOUT seconds (default 150).
 set -euo pipefail
+# modprobe is in sbin, which a user's PATH may lack.
+export PATH="$PATH:/usr/sbin:/sbin"
 
 work="$1" cli="$2" gadget="$3" rule="$4"
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
@@ -84,6 +86,7 @@ cp "$here/cases.sh" "$stage/etc/velmora/cases.sh"
 
 # Uncompressed: unpacking gzip in an emulated CPU costs more than the copy saves.
 (cd "$stage" && find . | cpio -o -H newc --quiet) >"$work/initramfs.cpio"
+echo "boot_guest: initramfs of $(du -m "$work/initramfs.cpio" | cut -f1) MB made in $SECONDS s"
 
 started=$SECONDS
 status=0

@@ -1,6 +1,7 @@
 # The system test's cases, sourced by the guest's /init. Every function named case_NAME is one
 # case, run in the order written; CMake makes a ctest of each from the same names. A case reports
 # through check and note; run_case prints its verdict as "velmora-system: result NAME PASS|FAIL".
+# The cases run on one boot, in this order, and each leaves the gadgets as the next expects them.
 
 instrument=/sys/kernel/config/usb_gadget/instrument
 serial=/sys/kernel/config/usb_gadget/serial
@@ -25,7 +26,10 @@ run_case() {
     current=$1
     verdict=PASS
     note "begin"
+    began=$(centiseconds)
     "case_$1"
+    took=$(($(centiseconds) - began))
+    note "took $((took / 100)).$((took / 10 % 10)) s"
     echo "velmora-system: result $1 $verdict"
 }
 
