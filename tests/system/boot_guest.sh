@@ -85,7 +85,7 @@ install -m 755 "$here/init" "$stage/init"
 cp "$here/cases.sh" "$stage/etc/velmora/cases.sh"
 
 # Uncompressed: unpacking gzip in an emulated CPU costs more than the copy saves.
-(cd "$stage" && find . | cpio -o -H newc --quiet) >"$work/initramfs.cpio"
+(cd "$stage" && find . | cpio -o -H newc -R 0:0 --quiet) >"$work/initramfs.cpio"
 echo "boot_guest: initramfs of $(du -m "$work/initramfs.cpio" | cut -f1) MB made in $SECONDS s"
 
 started=$SECONDS

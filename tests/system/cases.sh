@@ -12,14 +12,16 @@ mkdir -p "$work"
 
 note() { echo "velmora-system: $current: $*"; }
 
-# check DESCRIPTION COMMAND...: notes a failure unless COMMAND succeeds.
+fail() {
+    note "FAIL: $*"
+    verdict=FAIL
+}
+
+# check DESCRIPTION COMMAND...: a failure unless COMMAND succeeds.
 check() {
     description=$1
     shift
-    if ! "$@"; then
-        note "FAIL: $description"
-        verdict=FAIL
-    fi
+    "$@" || fail "$description"
 }
 
 run_case() {
@@ -59,17 +61,17 @@ unplug() { echo "" >"$1/UDC"; }
 
 plug_instrument() {
     plug "$instrument" dummy_udc.0
-    udevadm wait --timeout=30 "$node" || note "FAIL: $node did not appear"
+    check "$node appears" udevadm wait --timeout=30 "$node"
 }
 
 unplug_instrument() {
     unplug "$instrument"
-    udevadm wait --removed --timeout=30 "$node" || note "FAIL: $node did not go"
+    check "$node goes" udevadm wait --removed --timeout=30 "$node"
 }
 
 # The gadget side answers for the instrument; its log is $work/gadget.log.
 start_gadget() {
-    udevadm wait --timeout=30 /dev/hidg0 || note "FAIL: /dev/hidg0 did not appear"
+    check "/dev/hidg0 appears" udevadm wait --timeout=30 /dev/hidg0
     gadget_instrument /dev/hidg0 >"$work/gadget.log" 2>&1 &
     gadget=$!
 }
@@ -97,7 +99,7 @@ start() {
 # finish NAME SECONDS: waits for it to end; one still running then is killed and noted.
 finish() {
     if ! wait_for "$2" ended "$1"; then
-        note "FAIL: velmora-cli $1 still running after $2 s; killed"
+        fail "$1 still running after $2 s; killed"
         kill -9 "$(cat "$work/$1.pid")"
         wait_for 5 ended "$1"
     fi
@@ -165,7 +167,7 @@ case_replug_read() {
 case_access_denied() {
     chmod 600 "$node"
     chown 0:0 "$node"
-    # A user of no group: only the udev rule's uaccess would let it in, and no seat is logged in.
+    # An ordinary user: only uaccess would let it in, and that needs a user logged in at the seat.
     start read su -s /bin/sh -c 'exec velmora-cli read --count 1' user
     finish read 20
     check "read exits 1, not $rc" [ "$rc" = 1 ]
@@ -187,8 +189,8 @@ case_uaccess_tag() {
     show "$work/tags"
 }
 
-# watch_case SOURCE CONTROLLER GADGET ADDED REMOVED TEXT [OPTIONS...]: the watcher, started with
-# nothing plugged, prints ADDED then REMOVED (lines holding TEXT) as the gadget comes and goes.
+# watch_case SOURCE GADGET CONTROLLER ADDED REMOVED TEXT [OPTIONS...]: the watcher, started with
+# nothing plugged, prints ADDED (a line holding TEXT) then REMOVED as the gadget comes and goes.
 watch_case() {
     source=$1 gadget_dir=$2 controller=$3 added=$4 removed=$5 text=$6
     shift 6
