@@ -1,6 +1,6 @@
 #include "app/cli/headless_window.h"
 
-#include "foundation/locale.h"
+#include "foundation/posix/environment_locale.h"
 
 #include <ostream>
 

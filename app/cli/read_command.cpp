@@ -4,6 +4,8 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
+#include "foundation/posix/environment_locale.h"
+#include "foundation/posix/sys_log.h"
 
 #include <CLI/CLI.hpp>
 #include <limits>

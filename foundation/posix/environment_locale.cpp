@@ -1,4 +1,4 @@
-#include "foundation/locale.h"
+#include "foundation/posix/environment_locale.h"
 
 #include <clocale>
 #include <langinfo.h>
