@@ -15,7 +15,8 @@ public:
     virtual std::string groupingSeparator() const = 0;
 };
 
-// Fixed conventions: the command line's --decimal-separator, and the tests.
+// Fixed conventions: the command line's --decimal-separator, the environment's as read at
+// start, and the tests.
 class FixedLocale final : public Locale {
 public:
     explicit FixedLocale(std::string decimal = ".", std::string grouping = ",")

@@ -11,7 +11,7 @@ std::unique_ptr<Locale> localeOf(const Context& context) {
     if (context.decimalSeparator) {
         return std::make_unique<FixedLocale>(*context.decimalSeparator);
     }
-    return std::make_unique<EnvironmentLocale>();
+    return std::make_unique<FixedLocale>(environmentLocale());
 }
 
 } // namespace

@@ -26,7 +26,7 @@ struct ReadOptions {
 
 std::unique_ptr<Locale> displayLocale(const Context& context) {
     if (!context.decimalSeparator) {
-        return std::make_unique<EnvironmentLocale>();
+        return std::make_unique<FixedLocale>(environmentLocale());
     }
     const std::string& decimal = *context.decimalSeparator;
     return std::make_unique<FixedLocale>(decimal, decimal == "," ? "." : ",");

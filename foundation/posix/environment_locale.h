@@ -4,20 +4,10 @@
 
 #include "foundation/locale.h"
 
-#include <string>
-
 namespace velmora {
 
-// Read once, without touching the process-wide C locale.
-class EnvironmentLocale final : public Locale {
-public:
-    EnvironmentLocale();
-    std::string decimalSeparator() const override { return decimal_; }
-    std::string groupingSeparator() const override { return grouping_; }
-
-private:
-    std::string decimal_;
-    std::string grouping_;
-};
+// Read once, without touching the process-wide C locale; the C conventions when the environment
+// names a locale the system does not know.
+FixedLocale environmentLocale();
 
 } // namespace velmora
