@@ -8,22 +8,17 @@ namespace velmora {
 Bundle::Bundle(std::vector<std::filesystem::path> searchPath)
     : searchPath_(std::move(searchPath)) {}
 
-const Bundle& Bundle::main() {
-    static const Bundle bundle = [] {
-        std::vector<std::filesystem::path> path;
-        if (const char* env = std::getenv("VELMORA_RESOURCES"); env != nullptr && *env != '\0') {
-            path.emplace_back(env);
-        }
-        std::error_code ec;
-        const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
-        if (!ec) {
-            const auto dir = exe.parent_path();
-            path.push_back(dir.parent_path() / "share" / "velmora");
-            path.push_back(dir / "resources");
-        }
-        return Bundle(std::move(path));
-    }();
-    return bundle;
+Bundle Bundle::forExecutable(const std::optional<std::filesystem::path>& executable) {
+    std::vector<std::filesystem::path> path;
+    if (const char* env = std::getenv("VELMORA_RESOURCES"); env != nullptr && *env != '\0') {
+        path.emplace_back(env);
+    }
+    if (executable) {
+        const auto dir = executable->parent_path();
+        path.push_back(dir.parent_path() / "share" / "velmora");
+        path.push_back(dir / "resources");
+    }
+    return Bundle(std::move(path));
 }
 
 std::optional<std::filesystem::path> Bundle::pathForResource(const std::string& name,

@@ -16,6 +16,10 @@ public:
 
     // $VELMORA_RESOURCES when set, then <executable dir>/../share/velmora, then
     // <executable dir>/resources: the same program finds its files installed or in the build tree.
+    static Bundle forExecutable(const std::optional<std::filesystem::path>& executable);
+
+    // The running program's: the platform library defines it (foundation/posix/), since only
+    // the system knows where the program is.
     static const Bundle& main();
 
     // The first existing file "name.type" along the search path.

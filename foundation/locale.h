@@ -15,24 +15,12 @@ public:
     virtual std::string groupingSeparator() const = 0;
 };
 
-// Fixed conventions: the command line's --decimal-separator, and the tests.
+// Fixed conventions: the command line's --decimal-separator, the environment's as read at
+// start, and the tests.
 class FixedLocale final : public Locale {
 public:
     explicit FixedLocale(std::string decimal = ".", std::string grouping = ",")
         : decimal_(std::move(decimal)), grouping_(std::move(grouping)) {}
-    std::string decimalSeparator() const override { return decimal_; }
-    std::string groupingSeparator() const override { return grouping_; }
-
-private:
-    std::string decimal_;
-    std::string grouping_;
-};
-
-// The conventions of the process environment's LC_NUMERIC (LC_ALL, LC_NUMERIC, LANG), read without
-// touching the process-wide C locale.
-class EnvironmentLocale final : public Locale {
-public:
-    EnvironmentLocale();
     std::string decimalSeparator() const override { return decimal_; }
     std::string groupingSeparator() const override { return grouping_; }
 

@@ -14,14 +14,4 @@ public:
     virtual void error(std::string_view line) = 0;
 };
 
-class SysLog final : public Log {
-public:
-    explicit SysLog(bool alsoToStderr = false);
-    void info(std::string_view line) override;
-    void error(std::string_view line) override;
-
-private:
-    bool alsoToStderr_;
-};
-
 } // namespace velmora

@@ -1,5 +1,8 @@
 #include "search/number_entry.h"
 
+#include "foundation/c_number.h"
+#include "foundation/text.h"
+
 #include <unicode/utf8.h>
 
 namespace velmora {
@@ -35,6 +38,21 @@ bool isNumberOnly(std::string_view text, std::string_view separator) {
 
 std::string foreignSeparator(std::string_view separator) {
     return separator == "." ? "," : ".";
+}
+
+bool usesOwnSeparator(std::string_view text, std::string_view separator) {
+    return text.find(foreignSeparator(separator)) == std::string_view::npos;
+}
+
+bool hasOnlyNumberCharacters(std::string_view text, const DecimalSeparators& separators) {
+    return isNumberOnly(text, separators.decimalSeparator);
+}
+
+std::optional<double> readEntryNumber(std::string_view text, const DecimalSeparators& separators) {
+    if (!isNumberOnly(text, separators.currentDecimalSeparator)) {
+        return std::nullopt;
+    }
+    return parseCNumber(text::replaceAll(text, separators.decimalSeparator, "."));
 }
 
 } // namespace velmora

@@ -3,7 +3,7 @@
 // The main window's controller: the state machine over the window's named elements. It sets the
 // window up, switches between the R.I. reading and dictionary tabs, runs the search form, lists
 // the results and shows the chosen stone, and shows the instrument panel's state. Its operations
-// are spread over files by concern: ui/ for the window, search/ for the search form.
+// are spread over ui/ files by concern; what the search form computes is search/'s.
 //
 // Work it queues on the run loop refers to the controller: run or drop it before the controller
 // goes.
@@ -25,6 +25,10 @@
 #include <vector>
 
 namespace velmora {
+
+struct DecimalSeparators;
+struct SearchForm;
+enum class NumericEntry;
 
 struct ViewControllerEnvironment {
     RunLoop& runLoop;
@@ -68,7 +72,7 @@ public:
     void loadColors();
     void btn_onChangeColor_tap(PopUpButton& sender);
 
-    // The search form (search/)
+    // The search form (search_form.cpp, search_stones.cpp)
     void searchStones();
     void resetSearchForm();
     void clearSearchForm();
@@ -79,7 +83,7 @@ public:
     void btn_clear_tap(Button& sender);
     void btn_reset_tap(Button& sender);
 
-    // Entry checks (search/entry_checks.cpp)
+    // Entry checks (entry_checks.cpp)
     void controlTextDidChange(TextField* object) override;
     bool controlTextShouldEndEditing(TextField& control, FieldEditor& editor) override;
 
@@ -119,11 +123,9 @@ private:
 
     void showAlert(const std::string& message, const std::string& informative, AlertStyle style);
     std::string currentDecimalSeparator() const;
-    bool isNumberOnly(const std::string& text) const;
-    bool usesOwnSeparator(const std::string& text) const;
-    bool hasOnlyNumberCharacters(const std::string& text) const;
-    void rejectForeignSeparator(TextField& entry);
-    std::optional<double> readEntryNumber(TextField& entry);
+    DecimalSeparators decimalSeparators() const;
+    SearchForm searchForm() const;
+    TextField& numericEntry(NumericEntry entry);
 
     MainWindow& window_;
     ViewControllerEnvironment environment_;

@@ -1,6 +1,6 @@
 #include "app/cli/headless_window.h"
 
-#include "foundation/locale.h"
+#include "foundation/posix/environment_locale.h"
 
 #include <ostream>
 
@@ -11,7 +11,7 @@ std::unique_ptr<Locale> localeOf(const Context& context) {
     if (context.decimalSeparator) {
         return std::make_unique<FixedLocale>(*context.decimalSeparator);
     }
-    return std::make_unique<EnvironmentLocale>();
+    return std::make_unique<FixedLocale>(environmentLocale());
 }
 
 } // namespace

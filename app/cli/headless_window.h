@@ -6,7 +6,7 @@
 // screens are out of reach from here.
 
 #include "app/cli/cli.h"
-#include "foundation/event_loop.h"
+#include "foundation/posix/event_loop.h"
 #include "ui/main_window.h"
 #include "ui/view_controller.h"
 

@@ -3,7 +3,7 @@
 #include "app/cli/output.h"
 #include "device/device_notifications.h"
 #include "device/reading.h"
-#include "foundation/event_loop.h"
+#include "foundation/posix/event_loop.h"
 
 #include <atomic>
 #include <csignal>

@@ -4,6 +4,8 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
+#include "foundation/posix/environment_locale.h"
+#include "foundation/posix/sys_log.h"
 
 #include <CLI/CLI.hpp>
 #include <limits>
@@ -24,7 +26,7 @@ struct ReadOptions {
 
 std::unique_ptr<Locale> displayLocale(const Context& context) {
     if (!context.decimalSeparator) {
-        return std::make_unique<EnvironmentLocale>();
+        return std::make_unique<FixedLocale>(environmentLocale());
     }
     const std::string& decimal = *context.decimalSeparator;
     return std::make_unique<FixedLocale>(decimal, decimal == "," ? "." : ",");

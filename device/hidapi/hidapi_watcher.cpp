@@ -4,7 +4,7 @@
 #include "device/hidapi/hidapi_handle.h"
 #include "device/hidapi/hidapi_text.h"
 #include "device/hidapi/hidapi_watched_device.h"
-#include "foundation/event_loop.h"
+#include "foundation/posix/event_loop.h"
 
 #include <algorithm>
 #include <chrono>

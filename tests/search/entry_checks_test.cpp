@@ -1,94 +1,84 @@
-#include "tests/support/window_harness.h"
+#include "search/entry_checks.h"
 
 #include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
-using Texts = std::vector<std::string>;
+using Alert = std::optional<std::string>;
 
-// A window in the dictionary tab with every criterion that has an entry switched on.
-struct Entries : WindowHarness {
-    explicit Entries(std::string separator = ".")
-        : WindowHarness({.decimalSeparator = std::move(separator)}) {
-        click(window.bvtn_dictionary);
-        alertPresenter.alerts.clear(); // the empty table's "Not Found in Record"
-        for (Button* box :
-             {&window.check_RI, &window.check_sg, &window.check_hardness, &window.check_Name}) {
-            click(*box);
-        }
-    }
+const Alert numberOnly = "Please insert number only!";
+const DecimalSeparators point{".", "."};
+const DecimalSeparators comma{",", ","};
+// The user switched the locale from "." to "," while the window was open.
+const DecimalSeparators switched{".", ","};
+// U+066B, the Arabic decimal separator: two bytes, and "." is its foreign separator.
+const DecimalSeparators arabic{"\xD9\xAB", "\xD9\xAB"};
+
+struct CheckCase {
+    const char* text;
+    DecimalSeparators separators;
+    Alert typed;
+    Alert finished;
 };
 
-struct TypingCase {
-    std::string separator;
-    TextField MainWindow::*entry;
-    std::string typed;
-    Texts alerts;
-    std::string left;
-};
-
-TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
-    const std::string numberOnly = "Please insert number only!";
-    const TypingCase cases[] = {
-        {".", &MainWindow::txt_leftRIReading, "1.544", {}, "1.544"},
-        // What comes after the rejected character goes into the emptied entry.
-        {".", &MainWindow::txt_leftSG, "1,5", {"Please use '.' as decimals!"}, "5"},
-        {",", &MainWindow::txt_leftHardness, "1.5", {"Please use ',' as decimals!"}, "5"},
-        {",", &MainWindow::txt_leftRIReading, "1,5", {}, "1,5"},
-        {".", &MainWindow::txt_leftSG, "2-", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "2 ", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "2x", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "2e", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "1.2.3", {}, "1.2.3"}, // the search's to refuse
-        {".", &MainWindow::txt_left_name, "Star ruby, 1.5", {}, "Star ruby, 1.5"},
+TEST(EntryChecks, TypingNamesAForeignSeparatorFirstAndLeavingRefusesAnEmptyOrStrayText) {
+    const CheckCase cases[] = {
+        {"1.544", point, {}, {}},
+        {"1,5", point, "Please use '.' as decimals!", numberOnly},
+        {"1.5", comma, "Please use ',' as decimals!", numberOnly},
+        {"1,5", comma, {}, {}},
+        {"1.2.3", point, {}, {}}, // reading it as a number refuses it
+        {"", point, {}, numberOnly},
+        {"-1", point, numberOnly, numberOnly},
+        {"1e5", point, numberOnly, numberOnly},
+        {"1 ", point, numberOnly, numberOnly},
+        // Typing follows the locale now; the message and leaving keep the window's separator.
+        {"2,6", switched, {}, numberOnly},
+        {"1.5", switched, "Please use '.' as decimals!", {}},
+        {"1\xD9\xAB"
+         "5",
+         arabic,
+         {},
+         {}},
+        {"1.5", arabic, "Please use '\xD9\xAB' as decimals!", numberOnly},
+        {"1,5", arabic, numberOnly, numberOnly},
     };
     for (const auto& c : cases) {
-        Entries h(c.separator);
-        h.type(h.window.*c.entry, c.typed);
-        EXPECT_EQ(h.alerts(), c.alerts) << c.typed;
-        EXPECT_EQ((h.window.*c.entry).text(), c.left) << c.typed;
-        for (const auto& alert : h.alertPresenter.alerts) {
-            EXPECT_EQ(alert.message, "");
-            EXPECT_EQ(alert.style, AlertStyle::Warning);
-            EXPECT_EQ(alert.buttons, Texts{"OK"});
-        }
+        EXPECT_EQ(typedEntryAlert(c.text, c.separators), c.typed) << c.text;
+        EXPECT_EQ(finishedEntryAlert(c.text, c.separators), c.finished) << c.text;
     }
 }
 
-TEST(EntryChecks, TwoSeparatorsPassAndAnEntryEmptiedByDeletingPassesUntilItIsLeft) {
-    Entries h;
-    h.type(h.window.txt_leftSG, "1.2.3");
-    h.leave();
-    h.type(h.window.txt_leftHardness, "7");
-    h.deleteBackward();
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    EXPECT_EQ(h.window.firstResponder(), nullptr);
-}
+struct ReadCase {
+    const char* text;
+    DecimalSeparators separators;
+    std::optional<double> number;
+};
 
-TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
-    Entries h;
-    h.window.txt_leftRIReading.setText("x,y");
-    h.type(h.window.txt_leftSG, "2");
-    h.window.txt_leftSG.setText("2,6");
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    EXPECT_EQ(h.window.txt_leftSG.text(), "");
-    EXPECT_EQ(h.window.firstResponder(), nullptr);
-}
-
-TEST(EntryChecks, TypingFollowsTheLocaleButTheEndOfEditingKeepsTheSeparatorTheWindowStartedWith) {
-    Entries h;
-    h.locale.setDecimalSeparator(",");
-    h.type(h.window.txt_leftSG, "2,6");
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    h.type(h.window.txt_leftRIReading, "1.5");
-    EXPECT_EQ(h.alerts().back(), "Please use '.' as decimals!");
+TEST(EntryChecks, AnEntryIsReadInTheUsersNotationAsAWholeNumber) {
+    const ReadCase cases[] = {
+        {"1.544", point, 1.544},
+        {"1,544", comma, 1.544},
+        {"1,544", point, std::nullopt},
+        {"1", point, 1.0},
+        {".5", point, 0.5},
+        {"5.", point, 5.0},
+        {"1.5.4", point, std::nullopt},
+        {".", point, std::nullopt},
+        {"", point, std::nullopt},
+        {"1\xD9\xAB"
+         "5",
+         arabic, 1.5},
+        // Checked against the locale now, read with the window's separator: after a switch
+        // only whole numbers survive both.
+        {"1,5", switched, std::nullopt},
+        {"1.5", switched, std::nullopt},
+        {"15", switched, 15.0},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(readEntryNumber(c.text, c.separators), c.number) << c.text;
+    }
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "foundation/log.h"
+#include "foundation/posix/sys_log.h"
 
 #include <cstdio>
 #include <string>

@@ -1,4 +1,4 @@
-#include "foundation/event_loop.h"
+#include "foundation/posix/event_loop.h"
 
 #include <algorithm>
 #include <cassert>

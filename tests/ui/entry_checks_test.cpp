@@ -1,0 +1,95 @@
+#include "tests/support/window_harness.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// A window in the dictionary tab with every criterion that has an entry switched on.
+struct Entries : WindowHarness {
+    explicit Entries(std::string separator = ".")
+        : WindowHarness({.decimalSeparator = std::move(separator)}) {
+        click(window.bvtn_dictionary);
+        alertPresenter.alerts.clear(); // the empty table's "Not Found in Record"
+        for (Button* box :
+             {&window.check_RI, &window.check_sg, &window.check_hardness, &window.check_Name}) {
+            click(*box);
+        }
+    }
+};
+
+struct TypingCase {
+    std::string separator;
+    TextField MainWindow::*entry;
+    std::string typed;
+    Texts alerts;
+    std::string left;
+};
+
+TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
+    const std::string numberOnly = "Please insert number only!";
+    const TypingCase cases[] = {
+        {".", &MainWindow::txt_leftRIReading, "1.544", {}, "1.544"},
+        // What comes after the rejected character goes into the emptied entry.
+        {".", &MainWindow::txt_leftSG, "1,5", {"Please use '.' as decimals!"}, "5"},
+        {",", &MainWindow::txt_leftHardness, "1.5", {"Please use ',' as decimals!"}, "5"},
+        {",", &MainWindow::txt_leftRIReading, "1,5", {}, "1,5"},
+        {".", &MainWindow::txt_leftSG, "2-", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2 ", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2x", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "2e", {numberOnly}, ""},
+        {".", &MainWindow::txt_leftSG, "1.2.3", {}, "1.2.3"}, // the search's to refuse
+        {".", &MainWindow::txt_left_name, "Star ruby, 1.5", {}, "Star ruby, 1.5"},
+    };
+    for (const auto& c : cases) {
+        Entries h(c.separator);
+        h.type(h.window.*c.entry, c.typed);
+        EXPECT_EQ(h.alerts(), c.alerts) << c.typed;
+        EXPECT_EQ((h.window.*c.entry).text(), c.left) << c.typed;
+        for (const auto& alert : h.alertPresenter.alerts) {
+            EXPECT_EQ(alert.message, "");
+            EXPECT_EQ(alert.style, AlertStyle::Warning);
+            EXPECT_EQ(alert.buttons, Texts{"OK"});
+        }
+    }
+}
+
+TEST(EntryChecks, TwoSeparatorsPassAndAnEntryEmptiedByDeletingPassesUntilItIsLeft) {
+    Entries h;
+    h.type(h.window.txt_leftSG, "1.2.3");
+    h.leave();
+    h.type(h.window.txt_leftHardness, "7");
+    h.deleteBackward();
+    EXPECT_TRUE(h.alerts().empty());
+    h.leave();
+    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
+    EXPECT_EQ(h.window.firstResponder(), nullptr);
+}
+
+TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
+    Entries h;
+    h.window.txt_leftRIReading.setText("x,y");
+    h.type(h.window.txt_leftSG, "2");
+    h.window.txt_leftSG.setText("2,6");
+    EXPECT_TRUE(h.alerts().empty());
+    h.leave();
+    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
+    EXPECT_EQ(h.window.txt_leftSG.text(), "");
+    EXPECT_EQ(h.window.firstResponder(), nullptr);
+}
+
+TEST(EntryChecks, TypingFollowsTheLocaleButTheEndOfEditingKeepsTheSeparatorTheWindowStartedWith) {
+    Entries h;
+    h.locale.setDecimalSeparator(",");
+    h.type(h.window.txt_leftSG, "2,6");
+    EXPECT_TRUE(h.alerts().empty());
+    h.leave();
+    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
+    h.type(h.window.txt_leftRIReading, "1.5");
+    EXPECT_EQ(h.alerts().back(), "Please use '.' as decimals!");
+}
+
+} // namespace
+} // namespace velmora::test
