@@ -7,7 +7,7 @@
 namespace velmora {
 
 ViewController::ViewController(MainWindow& window, ViewControllerEnvironment environment)
-    : MainWindowOutlets(window), window_(window), environment_(std::move(environment)) {
+    : MainWindowOutlets(window), environment_(std::move(environment)) {
     if (const std::string separator = environment_.locale.decimalSeparator(); !separator.empty()) {
         decimalSeparator = separator;
     }

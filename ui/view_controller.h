@@ -125,7 +125,6 @@ private:
     void rejectForeignSeparator(TextField& entry);
     std::optional<double> readEntryNumber(TextField& entry);
 
-    MainWindow& window_;
     ViewControllerEnvironment environment_;
     std::vector<NotificationCenter::Token> observations_;
 };
