@@ -53,7 +53,6 @@ void ViewController::viewDidLoad() {
 
 void ViewController::styleViews() {
     using namespace systemColors;
-    view.setWantsLayer(true);
     border_RiReading.setHidden(false);
     border_dictionary.setHidden(true);
     box.setBackgroundColor(Rgba::rgb255(18, 27, 50));
