@@ -9,7 +9,6 @@ ContactUs::ContactUs(Workspace& workspace, SupportContact contact)
 
 void ContactUs::viewDidLoad() {
     title_ = screenTitle;
-    view.setWantsLayer(true);
     view.setBackgroundColor(systemColors::white);
 }
 

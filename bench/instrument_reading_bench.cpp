@@ -55,7 +55,7 @@ NotificationCenter::Token showReadings(NotificationCenter& center, const Locale&
 
 void BM_ReportToDisplayText(benchmark::State& state) {
     NotificationCenter center;
-    const FixedLocale locale(",", ".");
+    const FixedLocale locale(",");
     std::string field;
     showReadings(center, locale, field);
     std::uint8_t report[8] = {0x04, 0x06, 0, 0, 0, 0, 0, 0};
@@ -72,7 +72,7 @@ void BM_RequestToDisplayTextThroughTheSession(benchmark::State& state) {
     QueueLoop loop;
     NotificationCenter center;
     NoLog log;
-    const FixedLocale locale(",", ".");
+    const FixedLocale locale(",");
     std::string field;
     showReadings(center, locale, field);
     HIDDeviceConnector connector(

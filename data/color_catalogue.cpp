@@ -1,7 +1,5 @@
 #include "data/color_catalogue.h"
 
-#include "foundation/text.h"
-
 namespace velmora {
 
 const std::array<Color, 12>& colorCatalogue() {
@@ -23,15 +21,6 @@ const std::array<Color, 12>& colorCatalogue() {
         {"Grey", Rgba::gray(1.0 / 3.0)},
     }};
     return catalogue;
-}
-
-std::optional<Color> colorNamed(const std::string& title) {
-    for (const auto& entry : colorCatalogue()) {
-        if (text::equals(entry.name, title)) {
-            return entry;
-        }
-    }
-    return std::nullopt;
 }
 
 } // namespace velmora

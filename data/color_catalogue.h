@@ -6,7 +6,6 @@
 #include "foundation/rgba.h"
 
 #include <array>
-#include <optional>
 #include <string>
 
 namespace velmora {
@@ -20,8 +19,5 @@ struct Color {
 
 // The twelve entries in pop-up order; entry 0 is the initial choice.
 const std::array<Color, 12>& colorCatalogue();
-
-// The first entry whose name equals the title exactly (case and all).
-std::optional<Color> colorNamed(const std::string& title);
 
 } // namespace velmora

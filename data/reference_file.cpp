@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <deque>
+#include <optional>
 #include <string>
 
 namespace velmora {
@@ -55,22 +56,10 @@ std::string_view withoutQuotes(std::string_view line, std::string& scratch) {
     return scratch;
 }
 
-constexpr std::size_t nameColumn = 1;
-constexpr std::size_t flagColumn = 16;
+constexpr std::size_t nameColumn = Stones::columnOf(&Stones::StoneName);
+constexpr std::size_t newColumn = Stones::columnOf(&Stones::NEW);
 
 } // namespace
-
-std::optional<Stones> rowToRecord(std::string_view line) {
-    std::string scratch;
-    line = withoutQuotes(line, scratch);
-    const auto ends = cutCells(line);
-    if (!ends) {
-        return std::nullopt;
-    }
-    Stones stone;
-    fillFields(line, *ends, stone);
-    return stone;
-}
 
 std::vector<Stones> parseReferenceText(std::string_view text) {
     // The rows are chosen and put in name order as views into the text first, then built in their
@@ -89,7 +78,7 @@ std::vector<Stones> parseReferenceText(std::string_view text) {
     for (std::size_t i = 1; i < lines.size(); ++i) {
         std::string_view line = withoutQuotes(lines[i], scratch);
         const auto ends = cutCells(line);
-        if (!ends || cell(line, *ends, flagColumn) != "1") {
+        if (!ends || cell(line, *ends, newColumn) != "1") {
             continue;
         }
         if (line.data() == scratch.data()) {

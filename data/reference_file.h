@@ -6,16 +6,12 @@
 
 #include "data/stones.h"
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace velmora {
 
-// One line (already cut from the file) to a record, or nothing when it does not have 28 cells.
-std::optional<Stones> rowToRecord(std::string_view line);
-
-// The reference set held in a whole file's text: the rows whose inclusion flag is "1", in
+// The reference set held in a whole file's text: the rows whose NEW cell is "1", in
 // ascending order of StoneName (scalar values after normalization, case-sensitive); equal names
 // keep their file order.
 std::vector<Stones> parseReferenceText(std::string_view text);

@@ -44,14 +44,32 @@ struct Stones {
     // Field i is column i of the reference file.
     std::string& field(std::size_t i) { return this->*members[i]; }
     const std::string& field(std::size_t i) const { return this->*members[i]; }
+    // The column of a field: the inverse of field().
+    static consteval std::size_t columnOf(std::string Stones::*member);
 
     bool operator==(const Stones&) const = default;
 
-    // In the reference set when the inclusion flag is exactly "1".
-    bool isIncluded() const { return NEW == "1"; }
-
 private:
-    static const std::array<std::string Stones::*, fieldCount> members;
+    static constexpr std::array<std::string Stones::*, fieldCount> members = {
+        &Stones::StoneID,      &Stones::StoneName,    &Stones::SgAverage,
+        &Stones::SgMin,        &Stones::SgMax,        &Stones::SgRange,
+        &Stones::Ri,           &Stones::RiMin,        &Stones::RiMax,
+        &Stones::Hardness,     &Stones::HMin,         &Stones::Hmax,
+        &Stones::StonenameUSB, &Stones::SgAverageUSB, &Stones::Birefringence,
+        &Stones::StoneFamily,  &Stones::NEW,          &Stones::BirefMin,
+        &Stones::BirefMax,     &Stones::Description1, &Stones::Description2,
+        &Stones::Description3, &Stones::Color1,       &Stones::Color2,
+        &Stones::Color3,       &Stones::Color4,       &Stones::Color5,
+        &Stones::Color6,
+    };
 };
+
+consteval std::size_t Stones::columnOf(std::string Stones::*member) {
+    std::size_t i = 0;
+    while (members[i] != member) {
+        ++i;
+    }
+    return i;
+}
 
 } // namespace velmora

@@ -6,6 +6,7 @@
 // starts it.
 
 #include "device/hid_watcher.h"
+#include "device/instrument_usb_ids.h"
 #include "foundation/notification_center.h"
 
 #include <cstdint>
@@ -40,8 +41,8 @@ public:
     virtual void inputReportReceived(std::span<const std::uint8_t> report);
     virtual void deviceRemoved(const std::shared_ptr<WatchedHidDevice>& removed);
 
-    static constexpr std::int64_t vendorId = 0x04D8;
-    static constexpr std::int64_t productId = 0xF9FF;
+    static constexpr std::int64_t vendorId = instrumentVendorId;
+    static constexpr std::int64_t productId = instrumentProductId;
     static constexpr std::int64_t reportSize = 8;
     // The name the "class" of deviceDisconnected gives.
     static constexpr char className[] = "Velmora_Software.Blink1";

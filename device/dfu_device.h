@@ -6,6 +6,7 @@
 // by another client as a failure, since it cannot update a device it does not hold. Nothing in the
 // application starts it.
 
+#include "device/instrument_usb_ids.h"
 #include "device/usb_service_handler.h"
 #include "device/usb_watcher.h"
 #include "foundation/notification_center.h"
@@ -34,8 +35,8 @@ public:
     void devicesRemoved(UsbServices& services) override;
 
     // The instrument's identifiers, the only pair watched.
-    static constexpr std::uint16_t vendorId = 0x04D8;
-    static constexpr std::uint16_t productId = 0xF9FF;
+    static constexpr std::uint16_t vendorId = instrumentVendorId;
+    static constexpr std::uint16_t productId = instrumentProductId;
 
     // The interfaces of the instrument last opened; it stays open while they are held.
     std::shared_ptr<UsbDeviceInterface> deviceInterfacePtrPtr;

@@ -10,6 +10,7 @@
 
 #include "device/hid_manager.h"
 #include "device/instrument_link.h"
+#include "device/instrument_usb_ids.h"
 #include "foundation/log.h"
 #include "foundation/notification_center.h"
 #include "foundation/run_loop.h"
@@ -29,8 +30,8 @@ class HIDDeviceConnector final : public InstrumentLink {
 public:
     using ManagerFactory = std::function<std::unique_ptr<HidManager>()>;
 
-    static constexpr std::uint16_t vendorId = 0x04D8;
-    static constexpr std::uint16_t productId = 0xF9FF;
+    static constexpr std::uint16_t vendorId = instrumentVendorId;
+    static constexpr std::uint16_t productId = instrumentProductId;
     static constexpr std::size_t reportSize = 8;
     static constexpr std::chrono::milliseconds updateInterval{100};
 

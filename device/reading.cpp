@@ -31,22 +31,12 @@ std::string formatReadingForDisplay(std::string_view readingText, const Locale& 
     const std::string_view fixed(digits.data(),
                                  static_cast<std::size_t>(printed.ptr - digits.data()));
 
-    const std::size_t signLength = fixed.front() == '-' ? 1 : 0;
-    const std::size_t point = fixed.find('.');
-    const std::string_view whole = fixed.substr(signLength, point - signLength);
-    const std::string grouping = locale.groupingSeparator();
     std::string decimal = locale.decimalSeparator();
     if (decimal.empty()) {
         decimal = ".";
     }
-
-    std::string text(fixed.substr(0, signLength));
-    for (std::size_t i = 0; i < whole.size(); ++i) {
-        if (i > 0 && (whole.size() - i) % 3 == 0) {
-            text += grouping;
-        }
-        text += whole[i];
-    }
+    const std::size_t point = fixed.find('.');
+    std::string text(fixed.substr(0, point));
     text += decimal;
     text += fixed.substr(point + 1);
     return text;

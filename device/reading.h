@@ -15,9 +15,9 @@ namespace velmora {
 // Any two bytes decode, 0.000 to 65.535.
 std::string decodeReading(std::uint8_t low, std::uint8_t high);
 
-// The reading as the user sees it: three fraction digits, the locale's decimal separator, and its
-// grouping separator from 1000 on. The text is read with a full stop as decimal point and must be
-// a number to its end; anything else shows as the empty string.
+// The reading as the user sees it: three fraction digits and the locale's decimal separator. No
+// grouping: a reading stops at 65.535. The text is read with a full stop as decimal point and must
+// be a number to its end; anything else shows as the empty string.
 std::string formatReadingForDisplay(std::string_view readingText, const Locale& locale);
 
 } // namespace velmora

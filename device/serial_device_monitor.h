@@ -29,8 +29,8 @@ public:
     explicit SerialDeviceMonitor(SerialPortSource& source,
                                  NotificationCenter& center = NotificationCenter::defaultCenter());
 
-    // Polls, pausing portUsageIntervalTime() between polls, until stop(): meant for a thread of
-    // its own.
+    // Polls, pausing the port usage interval (0.25 s until set) between polls, until stop():
+    // meant for a thread of its own.
     void start();
     // Safe from any thread; start() returns soon after, or at once if it has not begun yet.
     void stop();
@@ -38,8 +38,6 @@ public:
     // One poll: a fresh snapshot, filtered, compared with serialDevices, which it then replaces.
     void poll();
 
-    // Seconds between polls; 0.25 until set.
-    float portUsageIntervalTime() const { return portUsageIntervalTime_; }
     // Refuses, keeping the interval it had, a value that is not finite, is negative, or is
     // 4294.967296 s or more: the pause must count in an unsigned 32-bit number of microseconds.
     // Checked before narrowing to float, which would round 4294.967296 itself down into range.

@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-MainWindow::MainWindow() : tableView({{idColumn}, {"titleColumn"}}) {
+MainWindow::MainWindow() {
     // The tags the actions read: navigation 0 to 3, criteria 0 to 4.
     btn_RIReading.setTag(0);
     bvtn_dictionary.setTag(1);
@@ -63,16 +63,6 @@ void MainWindow::insertText(std::string_view typed) {
                                                           static_cast<std::size_t>(start),
                                                           static_cast<std::size_t>(i - start))));
     }
-}
-
-void MainWindow::deleteBackward() {
-    if (!editing_ || editing_->text().empty()) {
-        return;
-    }
-    const std::string& text = editing_->text();
-    auto end = static_cast<int32_t>(text.size());
-    U8_BACK_1(reinterpret_cast<const uint8_t*>(text.data()), 0, end);
-    changedByTyping(*editing_, text.substr(0, static_cast<std::size_t>(end)));
 }
 
 } // namespace velmora

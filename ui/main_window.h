@@ -1,11 +1,12 @@
 #pragma once
 
-// The main window as its interface file lays it out: every named element, owned here, and the
-// keyboard focus that decides which entry the user is typing into. The controller refers to the
-// elements by these names; the platform binding maps each to its widget.
+// The main window as its interface file lays it out: every named element of the element list,
+// owned here, and the keyboard focus that decides which entry the user is typing into. The
+// controller refers to the elements by these names; the platform binding maps each to its widget.
 
 #include "ui/button.h"
 #include "ui/layout_constraint.h"
+#include "ui/main_window_elements.h"
 #include "ui/pop_up_button.h"
 #include "ui/table_view.h"
 #include "ui/text_field.h"
@@ -14,6 +15,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmora {
 
@@ -38,60 +40,12 @@ public:
     // Typing at the end of the edited entry, one character (Unicode scalar) at a time; its
     // delegate hears of every change.
     void insertText(std::string_view typed);
-    // Deletes the last character of the edited entry.
-    void deleteBackward();
 
-    View view; // the root view
-
-    // Top bar and navigation
-    View box;
-    Button btn_RIReading;
-    Button bvtn_dictionary;
-    Button btn_tutorial;
-    Button btn_contactUs;
-    View border_RiReading;
-    View border_dictionary;
-
-    // Search form
-    View view_leftPanel;
-    Button check_RI{ButtonType::CheckBox};
-    Button check_sg{ButtonType::CheckBox};
-    Button check_hardness{ButtonType::CheckBox};
-    Button check_color{ButtonType::CheckBox};
-    Button check_Name{ButtonType::CheckBox};
-    View check_Name_Container;
-    TextField txt_leftRIReading;
-    TextField txt_leftSG;
-    TextField txt_leftHardness;
-    TextField txt_left_name;
-    PopUpButton btn_color;
-    View view_color;
-    Button btn_search;
-    Button btn_enter;
-    Button btn_clearAll;
-    Button btn_reset;
-
-    // Live reading panel
-    View view_reading;
-    LayoutConstraint reading_container_heightConstraint;
-    TextField usb_device_reading;
-    View view_deviceStatus;
-    TextField lbl_deviceStatus;
-    Button btn_connected;
-    Button btn_disconnected;
-
-    // Results and detail
-    PopUpButton btn_stonesList;
-    TextField lbl_stonesCount;
-    TableView tableView;
-    TextField txt_RI;
-    TextField txt_sg;
-    TextField txt_hardness;
-    TextField txt_bierfence;
-    TextField txt_stroneFamily;
-    TextView txt_commonSource;
-    TextView txt_otherInformation;
-    TextView txt_otherProduct;
+#define VELMORA_ELEMENT_MEMBER(Type, name, ...) Type name{__VA_ARGS__};
+#define VELMORA_CONSTRAINT_MEMBER(name, view) LayoutConstraint name;
+    VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_ELEMENT_MEMBER, VELMORA_CONSTRAINT_MEMBER)
+#undef VELMORA_ELEMENT_MEMBER
+#undef VELMORA_CONSTRAINT_MEMBER
 
 private:
     void changedByTyping(TextField& field, std::string text);

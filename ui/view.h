@@ -14,10 +14,6 @@ public:
     bool isHidden() const { return hidden_; }
     void setHidden(bool hidden) { update(hidden_, hidden, Property::Hidden); }
 
-    // Asked of the root view: every view of the window then paints through a layer.
-    bool wantsLayer() const { return wantsLayer_; }
-    void setWantsLayer(bool wants) { update(wantsLayer_, wants, Property::WantsLayer); }
-
     // Nothing means no colour at all (what lies behind shows), which is not the clear colour.
     const std::optional<Rgba>& backgroundColor() const { return backgroundColor_; }
     void setBackgroundColor(std::optional<Rgba> color) {
@@ -37,7 +33,6 @@ public:
 
 private:
     bool hidden_ = false;
-    bool wantsLayer_ = false;
     std::optional<Rgba> backgroundColor_;
     double borderWidth_ = 0;
     std::optional<Rgba> borderColor_;

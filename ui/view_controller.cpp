@@ -7,7 +7,7 @@
 namespace velmora {
 
 ViewController::ViewController(MainWindow& window, ViewControllerEnvironment environment)
-    : MainWindowOutlets(window), window_(window), environment_(std::move(environment)) {
+    : MainWindowOutlets(window), environment_(std::move(environment)) {
     if (const std::string separator = environment_.locale.decimalSeparator(); !separator.empty()) {
         decimalSeparator = separator;
     }
@@ -53,7 +53,6 @@ void ViewController::viewDidLoad() {
 
 void ViewController::styleViews() {
     using namespace systemColors;
-    view.setWantsLayer(true);
     border_RiReading.setHidden(false);
     border_dictionary.setHidden(true);
     box.setBackgroundColor(Rgba::rgb255(18, 27, 50));

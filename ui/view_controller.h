@@ -127,7 +127,6 @@ private:
     SearchForm searchForm() const;
     TextField& numericEntry(NumericEntry entry);
 
-    MainWindow& window_;
     ViewControllerEnvironment environment_;
     std::vector<NotificationCenter::Token> observations_;
 };

@@ -11,7 +11,6 @@ namespace velmora {
 
 enum class Property {
     Hidden,
-    WantsLayer,
     BackgroundColor,
     BorderWidth,
     BorderColor,

@@ -28,8 +28,7 @@ std::unique_ptr<Locale> displayLocale(const Context& context) {
     if (!context.decimalSeparator) {
         return std::make_unique<FixedLocale>(environmentLocale());
     }
-    const std::string& decimal = *context.decimalSeparator;
-    return std::make_unique<FixedLocale>(decimal, decimal == "," ? "." : ",");
+    return std::make_unique<FixedLocale>(*context.decimalSeparator);
 }
 
 } // namespace

@@ -144,15 +144,17 @@ void addWatchCommand(CLI::App& app, Context& context) {
         ->required()
         ->check(CLI::IsMember(names));
     const auto addNumber = [&](const char* name, std::optional<std::uint16_t>& value,
-                               const char* typeName, const char* description) {
+                               const char* typeName, const std::string& description) {
         command->add_option(name, value, description)
             ->transform(sixteenBitNumber)
             ->type_name(typeName);
     };
     addNumber("--vendor", request->options.vendorId, "ID",
-              "USB vendor identifier (hid, usb: default 0x04D8; serial: only ports of it)");
+              "USB vendor identifier (hid, usb: default " + hex(instrumentVendorId, 4) +
+                  "; serial: only ports of it)");
     addNumber("--product", request->options.productId, "ID",
-              "USB product identifier (hid, usb: default 0xF9FF; serial: only ports of it)");
+              "USB product identifier (hid, usb: default " + hex(instrumentProductId, 4) +
+                  "; serial: only ports of it)");
     addNumber("--usage-page", request->options.usagePage, "PAGE",
               "hid: only devices with this HID usage page (default: any)");
     addNumber("--usage", request->options.usage, "USAGE",

@@ -5,6 +5,7 @@
 
 #include "app/cli/cli.h"
 #include "app/cli/output.h"
+#include "device/instrument_usb_ids.h"
 #include "foundation/notification_center.h"
 #include "foundation/value.h"
 
@@ -85,9 +86,5 @@ template <class T> const T* recordIn(const Value& object, const char* key) {
     const std::any* record = value ? value->asRecord() : nullptr;
     return record ? std::any_cast<T>(record) : nullptr;
 }
-
-// The instrument's identifiers, watched by `watch usb` and `watch hid` unless others are given.
-inline constexpr std::uint16_t instrumentVendorId = 0x04D8;
-inline constexpr std::uint16_t instrumentProductId = 0xF9FF;
 
 } // namespace velmora::cli

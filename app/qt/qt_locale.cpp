@@ -8,8 +8,4 @@ std::string QtSystemLocale::decimalSeparator() const {
     return QLocale::system().decimalPoint().toStdString();
 }
 
-std::string QtSystemLocale::groupingSeparator() const {
-    return QLocale::system().groupSeparator().toStdString();
-}
-
 } // namespace velmora

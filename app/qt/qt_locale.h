@@ -9,7 +9,6 @@ namespace velmora {
 class QtSystemLocale final : public Locale {
 public:
     std::string decimalSeparator() const override;
-    std::string groupingSeparator() const override;
 };
 
 } // namespace velmora

@@ -210,7 +210,7 @@ int run(int argc, char** argv) {
         runLoop, center, log);
     UnexpectedAlerts alerts;
     // The same notation on every machine, so the pictures match the tutorial's text.
-    const FixedLocale locale(".", ",");
+    const FixedLocale locale(".");
     NoWorkspace workspace;
     DialogScreenPresenter screens(workspace, Bundle::main());
     QTemporaryDir data;

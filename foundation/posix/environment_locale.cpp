@@ -10,7 +10,7 @@ FixedLocale environmentLocale() {
     if (loc == static_cast<locale_t>(nullptr)) {
         return FixedLocale();
     }
-    FixedLocale environment(nl_langinfo_l(RADIXCHAR, loc), nl_langinfo_l(THOUSEP, loc));
+    FixedLocale environment(nl_langinfo_l(RADIXCHAR, loc));
     freelocale(loc);
     return environment;
 }

@@ -32,6 +32,17 @@ for extra in "${@:2}"; do
     expect_file "$extra"
 done
 
+# The rule and the record are made by the build from the identifiers the program looks for.
+rules="$prefix/lib/udev/rules.d/70-velmora.rules"
+if [[ -f "$rules" ]] && [[ $(grep -c 'ATTRS{idVendor}=="04d8", ATTRS{idProduct}=="f9ff"' "$rules") -ne 2 ]]; then
+    echo "the udev rule does not name the instrument 04d8:f9ff twice"
+    failures=$((failures + 1))
+fi
+if ! grep -q '<modalias>usb:v04D8pF9FFd\*</modalias>' "$prefix/share/metainfo/$id.metainfo.xml"; then
+    echo "the metainfo does not provide the instrument's modalias"
+    failures=$((failures + 1))
+fi
+
 desktop-file-validate "$prefix/share/applications/$id.desktop" || failures=$((failures + 1))
 appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml" >/dev/null ||
     { appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml"; failures=$((failures + 1)); }

@@ -14,7 +14,6 @@ public:
     explicit SettableLocale(std::string decimal) : decimal_(std::move(decimal)) {}
     void setDecimalSeparator(std::string decimal) { decimal_ = std::move(decimal); }
     std::string decimalSeparator() const override { return decimal_; }
-    std::string groupingSeparator() const override { return decimal_ == "," ? "." : ","; }
 
 private:
     std::string decimal_;

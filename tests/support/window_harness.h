@@ -80,8 +80,14 @@ public:
         }
         runQueued();
     }
+    // Backspace at the end of the edited entry, whose text is ASCII here.
     void deleteBackward() {
-        window.deleteBackward();
+        if (TextField* field = window.firstResponder(); field && !field->text().empty()) {
+            field->setText(field->text().substr(0, field->text().size() - 1));
+            if (TextFieldDelegate* delegate = field->delegate()) {
+                delegate->controlTextDidChange(field);
+            }
+        }
         runQueued();
     }
     void leave() {

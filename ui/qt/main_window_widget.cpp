@@ -9,6 +9,7 @@
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
+#include <concepts>
 
 namespace velmora::qt {
 namespace {
@@ -52,6 +53,36 @@ private:
     QWidget* widget_;
 };
 
+// Binds each element to its widget. The kind of binding follows from the element's type and the
+// widget's class in the form, so the element list says nothing of Qt; an element on a widget no
+// binding fits does not compile.
+class Binder {
+public:
+    Binder(MainWindow& window, std::vector<std::unique_ptr<ElementBinding>>& bindings)
+        : window_(window), bindings_(bindings) {}
+
+    void bind(MainWindow& window, QWidget* widget) { add<TitleBinding>(window, widget); }
+    // Only a plain view: an element of a derived type never falls back to the view's binding.
+    void bind(std::same_as<View> auto& view, QWidget* widget) { add<ViewBinding>(view, widget); }
+    void bind(Button& button, QAbstractButton* widget) { add<ButtonBinding>(button, widget); }
+    void bind(TextField& field, QLineEdit* widget) { add<EntryBinding>(field, widget, window_); }
+    void bind(TextField& field, QLabel* widget) { add<LabelBinding>(field, widget); }
+    void bind(PopUpButton& popUp, QComboBox* widget) { add<PopUpBinding>(popUp, widget); }
+    void bind(TableView& table, QTableView* widget) { add<TableBinding>(table, widget); }
+    void bind(TextView& view, QPlainTextEdit* widget) { add<TextViewBinding>(view, widget); }
+    void bind(LayoutConstraint& height, QWidget* widget) { add<HeightBinding>(height, widget); }
+
+private:
+    template <class Binding, class... Arguments> void add(Arguments&&... arguments) {
+        auto binding = std::make_unique<Binding>(std::forward<Arguments>(arguments)...);
+        binding->refresh();
+        bindings_.push_back(std::move(binding));
+    }
+
+    MainWindow& window_;
+    std::vector<std::unique_ptr<ElementBinding>>& bindings_;
+};
+
 } // namespace
 
 MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
@@ -63,62 +94,15 @@ MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
 // The bindings go before the widgets do, so no element tells a widget that is gone.
 MainWindowWidget::~MainWindowWidget() = default;
 
-template <class Binding, class... Arguments> void MainWindowWidget::bind(Arguments&&... arguments) {
-    auto binding = std::make_unique<Binding>(std::forward<Arguments>(arguments)...);
-    binding->refresh();
-    bindings_.push_back(std::move(binding));
-}
-
 void MainWindowWidget::bindElements(MainWindow& w) {
     Ui::MainWindowForm& f = *form_;
-    bind<TitleBinding>(w, this);
-    bind<ViewBinding>(w.view, f.view);
-
-    bind<ViewBinding>(w.box, f.box);
-    bind<ButtonBinding>(w.btn_RIReading, f.btn_RIReading);
-    bind<ButtonBinding>(w.bvtn_dictionary, f.bvtn_dictionary);
-    bind<ButtonBinding>(w.btn_tutorial, f.btn_tutorial);
-    bind<ButtonBinding>(w.btn_contactUs, f.btn_contactUs);
-    bind<ViewBinding>(w.border_RiReading, f.border_RiReading);
-    bind<ViewBinding>(w.border_dictionary, f.border_dictionary);
-
-    bind<ViewBinding>(w.view_leftPanel, f.view_leftPanel);
-    bind<ButtonBinding>(w.check_RI, f.check_RI);
-    bind<ButtonBinding>(w.check_sg, f.check_sg);
-    bind<ButtonBinding>(w.check_hardness, f.check_hardness);
-    bind<ButtonBinding>(w.check_color, f.check_color);
-    bind<ButtonBinding>(w.check_Name, f.check_Name);
-    bind<ViewBinding>(w.check_Name_Container, f.check_Name_Container);
-    bind<EntryBinding>(w.txt_leftRIReading, f.txt_leftRIReading, w);
-    bind<EntryBinding>(w.txt_leftSG, f.txt_leftSG, w);
-    bind<EntryBinding>(w.txt_leftHardness, f.txt_leftHardness, w);
-    bind<EntryBinding>(w.txt_left_name, f.txt_left_name, w);
-    bind<PopUpBinding>(w.btn_color, f.btn_color);
-    bind<ViewBinding>(w.view_color, f.view_color);
-    bind<ButtonBinding>(w.btn_search, f.btn_search);
-    bind<ButtonBinding>(w.btn_enter, f.btn_enter);
-    bind<ButtonBinding>(w.btn_clearAll, f.btn_clearAll);
-    bind<ButtonBinding>(w.btn_reset, f.btn_reset);
-
-    bind<ViewBinding>(w.view_reading, f.view_reading);
-    bind<HeightBinding>(w.reading_container_heightConstraint, f.view_reading);
-    bind<LabelBinding>(w.usb_device_reading, f.usb_device_reading);
-    bind<ViewBinding>(w.view_deviceStatus, f.view_deviceStatus);
-    bind<LabelBinding>(w.lbl_deviceStatus, f.lbl_deviceStatus);
-    bind<ButtonBinding>(w.btn_connected, f.btn_connected);
-    bind<ButtonBinding>(w.btn_disconnected, f.btn_disconnected);
-
-    bind<PopUpBinding>(w.btn_stonesList, f.btn_stonesList);
-    bind<LabelBinding>(w.lbl_stonesCount, f.lbl_stonesCount);
-    bind<TableBinding>(w.tableView, f.tableView);
-    bind<EntryBinding>(w.txt_RI, f.txt_RI, w);
-    bind<EntryBinding>(w.txt_sg, f.txt_sg, w);
-    bind<EntryBinding>(w.txt_hardness, f.txt_hardness, w);
-    bind<EntryBinding>(w.txt_bierfence, f.txt_bierfence, w);
-    bind<EntryBinding>(w.txt_stroneFamily, f.txt_stroneFamily, w);
-    bind<TextViewBinding>(w.txt_commonSource, f.txt_commonSource);
-    bind<TextViewBinding>(w.txt_otherInformation, f.txt_otherInformation);
-    bind<TextViewBinding>(w.txt_otherProduct, f.txt_otherProduct);
+    Binder binder(w, bindings_);
+    binder.bind(w, this);
+#define VELMORA_BIND_ELEMENT(Type, name, ...) binder.bind(w.name, f.name);
+#define VELMORA_BIND_CONSTRAINT(name, view) binder.bind(w.name, f.view);
+    VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_BIND_ELEMENT, VELMORA_BIND_CONSTRAINT)
+#undef VELMORA_BIND_ELEMENT
+#undef VELMORA_BIND_CONSTRAINT
 }
 
 QAction* MainWindowWidget::saveAction() const {

@@ -40,7 +40,6 @@ protected:
 
 private:
     void bindElements(MainWindow& elements);
-    template <class Binding, class... Arguments> void bind(Arguments&&... arguments);
 
     std::unique_ptr<Ui::MainWindowForm> form_;
     std::vector<std::unique_ptr<ElementBinding>> bindings_;

@@ -1,4 +1,6 @@
 #include "tests/ui/qt/shell_fixture.h"
+#include "ui/main_window.h"
+#include "ui/qt/main_window_widget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -198,6 +200,42 @@ TEST_F(Window, PickingAColourShowsItsSwatch) {
     click("check_color");
     EXPECT_EQ(colours->count(), 0);
     EXPECT_FALSE(colours->isEnabled());
+}
+
+// Each listed element is bound to the widget of its name in the interface file: hiding the element
+// hides that widget, and the height constraint shows and hides the view it constrains.
+TEST(WindowElements, EachIsShownByTheWidgetOfItsName) {
+    MainWindow elements;
+    qt::MainWindowWidget window(elements);
+    const auto widgetNamed = [&](const char* name) {
+        auto* widget = window.findChild<QWidget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    };
+    const auto expectHiddenWith = [&](View& element, const char* name) {
+        if (QWidget* widget = widgetNamed(name)) {
+            EXPECT_FALSE(widget->isHidden()) << name;
+            element.setHidden(true);
+            EXPECT_TRUE(widget->isHidden()) << name;
+            element.setHidden(false);
+            EXPECT_FALSE(widget->isHidden()) << name;
+        }
+    };
+    const auto expectHiddenAtZero = [&](LayoutConstraint& height, const char* view) {
+        if (QWidget* widget = widgetNamed(view)) {
+            height.setConstant(0);
+            EXPECT_TRUE(widget->isHidden()) << view;
+            height.setConstant(40);
+            EXPECT_FALSE(widget->isHidden()) << view;
+            EXPECT_EQ(widget->maximumHeight(), 40) << view;
+        }
+    };
+    elements.reading_container_heightConstraint.setConstant(40);
+#define VELMORA_CHECK_ELEMENT(Type, name, ...) expectHiddenWith(elements.name, #name);
+#define VELMORA_CHECK_CONSTRAINT(name, view) expectHiddenAtZero(elements.name, #view);
+    VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_CHECK_ELEMENT, VELMORA_CHECK_CONSTRAINT)
+#undef VELMORA_CHECK_ELEMENT
+#undef VELMORA_CHECK_CONSTRAINT
 }
 
 } // namespace

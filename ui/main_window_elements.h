@@ -1,0 +1,59 @@
+#pragma once
+
+// The main window's named elements, each named once. ELEMENT(Type, name, arguments...) is an
+// element shown by the widget of the same object name in resources/main_window.ui, made with the
+// arguments; CONSTRAINT(name, view) is a layout constraint on the height of the element view. The
+// window's members, the controller's outlets and the Qt bindings are all made from this list, so
+// an element is added here and in the .ui file, and nowhere else.
+//
+// The names are the window's own, spelling included.
+#define VELMORA_MAIN_WINDOW_ELEMENTS(ELEMENT, CONSTRAINT)                                          \
+    /* the root view */                                                                            \
+    ELEMENT(View, view)                                                                            \
+    /* Top bar and navigation */                                                                   \
+    ELEMENT(View, box)                                                                             \
+    ELEMENT(Button, btn_RIReading)                                                                 \
+    ELEMENT(Button, bvtn_dictionary)                                                               \
+    ELEMENT(Button, btn_tutorial)                                                                  \
+    ELEMENT(Button, btn_contactUs)                                                                 \
+    ELEMENT(View, border_RiReading)                                                                \
+    ELEMENT(View, border_dictionary)                                                               \
+    /* Search form */                                                                              \
+    ELEMENT(View, view_leftPanel)                                                                  \
+    ELEMENT(Button, check_RI, ButtonType::CheckBox)                                                \
+    ELEMENT(Button, check_sg, ButtonType::CheckBox)                                                \
+    ELEMENT(Button, check_hardness, ButtonType::CheckBox)                                          \
+    ELEMENT(Button, check_color, ButtonType::CheckBox)                                             \
+    ELEMENT(Button, check_Name, ButtonType::CheckBox)                                              \
+    ELEMENT(View, check_Name_Container)                                                            \
+    ELEMENT(TextField, txt_leftRIReading)                                                          \
+    ELEMENT(TextField, txt_leftSG)                                                                 \
+    ELEMENT(TextField, txt_leftHardness)                                                           \
+    ELEMENT(TextField, txt_left_name)                                                              \
+    ELEMENT(PopUpButton, btn_color)                                                                \
+    ELEMENT(View, view_color)                                                                      \
+    ELEMENT(Button, btn_search)                                                                    \
+    ELEMENT(Button, btn_enter)                                                                     \
+    ELEMENT(Button, btn_clearAll)                                                                  \
+    ELEMENT(Button, btn_reset)                                                                     \
+    /* Live reading panel */                                                                       \
+    ELEMENT(View, view_reading)                                                                    \
+    CONSTRAINT(reading_container_heightConstraint, view_reading)                                   \
+    ELEMENT(TextField, usb_device_reading)                                                         \
+    ELEMENT(View, view_deviceStatus)                                                               \
+    ELEMENT(TextField, lbl_deviceStatus)                                                           \
+    ELEMENT(Button, btn_connected)                                                                 \
+    ELEMENT(Button, btn_disconnected)                                                              \
+    /* Results and detail */                                                                       \
+    ELEMENT(PopUpButton, btn_stonesList)                                                           \
+    ELEMENT(TextField, lbl_stonesCount)                                                            \
+    ELEMENT(TableView, tableView,                                                                  \
+            std::vector<TableColumn>{{MainWindow::idColumn}, {"titleColumn"}})                     \
+    ELEMENT(TextField, txt_RI)                                                                     \
+    ELEMENT(TextField, txt_sg)                                                                     \
+    ELEMENT(TextField, txt_hardness)                                                               \
+    ELEMENT(TextField, txt_bierfence)                                                              \
+    ELEMENT(TextField, txt_stroneFamily)                                                           \
+    ELEMENT(TextView, txt_commonSource)                                                            \
+    ELEMENT(TextView, txt_otherInformation)                                                        \
+    ELEMENT(TextView, txt_otherProduct)
