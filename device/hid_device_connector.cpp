@@ -62,7 +62,7 @@ void HIDDeviceConnector::connectDataToDevice() {
     if (isDeviceFound && !isDataConnected) {
         isDataConnected = true;
         sendOutputReport(connectReport[0], connectReport[1]);
-        notificationCenter_.post(HIDDeviceConnected, Dictionary{{"device", matchingDict}});
+        notificationCenter_.post(HIDDeviceConnected{matchingDict});
         log_.info("[INFO] Send (50,100) is Data to Device");
     }
     log_.info("[INFO] Connect >> ");
@@ -81,7 +81,7 @@ void HIDDeviceConnector::initHID() {
     hidManager = managerFactory_();
     hidManager->scheduleWithRunLoop(runLoop_);
     hidManager->open();
-    matchingDict = Dictionary{{"ProductID", int{productId}}, {"VendorID", int{vendorId}}};
+    matchingDict = {.productId = productId, .vendorId = vendorId};
     hidManager->setDeviceMatching({vendorId, productId});
 
     const auto devices = hidManager->copyDevices();
@@ -96,7 +96,7 @@ void HIDDeviceConnector::initHID() {
         hidDevice->registerInputReportCallback(
             [this](std::span<const std::uint8_t> report) { inputReportReceived(report); });
         if (auto name = hidDevice->productProperty()) {
-            matchingDict.set("name", std::move(*name));
+            matchingDict.name = std::move(*name);
         }
         sendOutputReport(connectReport[0], connectReport[1]);
         isDeviceFound = true;
@@ -114,8 +114,8 @@ void HIDDeviceConnector::termHID() {
     isDataConnected = false;
     isDeviceFound = false;
     releaseSession();
-    matchingDict.clear();
-    notificationCenter_.post(HIDDeviceDisconnected, Dictionary{{"device", matchingDict}});
+    matchingDict = {};
+    notificationCenter_.post(HIDDeviceDisconnected{});
 }
 
 void HIDDeviceConnector::update_toDevice() {
@@ -138,15 +138,14 @@ void HIDDeviceConnector::applicationTerminated() {
         hidManager->registerDeviceRemovalCallback({});
         hidManager->unscheduleFromRunLoop();
     }
-    matchingDict.clear();
+    matchingDict = {};
     cancelUpdateTimer();
 }
 
 void HIDDeviceConnector::inputReportReceived(std::span<const std::uint8_t> report) {
     // A short report leaves the rest of the buffer as the previous one left it.
     std::copy_n(report.begin(), std::min(report.size(), inputReport.size()), inputReport.begin());
-    notificationCenter_.post(HIDDeviceDataReceived,
-                             Dictionary{{"data", decodeReading(inputReport[0], inputReport[1])}});
+    notificationCenter_.post(HIDDeviceDataReceived{decodeReading(inputReport[0], inputReport[1])});
 }
 
 void HIDDeviceConnector::sendOutputReport(std::uint8_t byte0, std::uint8_t byte1) {

@@ -8,12 +8,12 @@
 // Everything runs on the run loop's thread; the HID manager's callbacks and the timer are
 // scheduled on it.
 
+#include "device/device_notifications.h"
 #include "device/hid_manager.h"
 #include "device/instrument_link.h"
 #include "foundation/log.h"
 #include "foundation/notification_center.h"
 #include "foundation/run_loop.h"
-#include "foundation/value.h"
 
 #include <array>
 #include <chrono>
@@ -75,7 +75,7 @@ private:
     bool isDeviceFound = false;
     std::unique_ptr<HidManager> hidManager;
     std::shared_ptr<HidDevice> hidDevice;
-    Dictionary matchingDict;
+    MatchedHIDDevice matchingDict;
     std::array<std::uint8_t, reportSize> inputReport{};
     std::array<std::uint8_t, reportSize> outputReport{};
     std::optional<RunLoop::TimerId> updateTimer;

@@ -1,7 +1,6 @@
 #include "app/cli/live_readings.h"
 
 #include "app/cli/output.h"
-#include "device/device_notifications.h"
 #include "device/reading.h"
 #include "foundation/event_loop.h"
 
@@ -48,14 +47,12 @@ bool printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& 
     int printed = 0;
     EventLoop loop;
     NotificationCenter center;
-    center.addObserver(HIDDeviceConnected, [&](const Notification&) { connected = true; });
-    center.addObserver(HIDDeviceDataReceived, [&](const Notification& n) {
-        const Value* data = n.object["data"];
-        const bool done = count && printed == *count;
-        if (data == nullptr || data->asString() == nullptr || done) {
+    center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { connected = true; });
+    center.addObserver<HIDDeviceDataReceived>([&](const HIDDeviceDataReceived& reading) {
+        if (count && printed == *count) {
             return;
         }
-        printRecord(out, json, {{"reading", formatReadingForDisplay(*data->asString(), locale)}});
+        printRecord(out, json, {{"reading", formatReadingForDisplay(reading.data, locale)}});
         out.flush();
         ++printed;
         if (count && printed == *count) {

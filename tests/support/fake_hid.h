@@ -6,7 +6,6 @@
 // the HID layer delivers them on the run loop.
 
 #include "device/hid_device_connector.h"
-#include "foundation/value.h"
 
 #include <algorithm>
 #include <cassert>
