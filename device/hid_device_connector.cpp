@@ -4,9 +4,8 @@
 #include "device/reading.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <mutex>
+#include <atomic>
+#include <cassert>
 
 namespace velmora {
 
@@ -15,14 +14,7 @@ namespace {
 constexpr std::uint8_t connectReport[] = {0x80, 0x80};
 constexpr std::uint8_t updateReport[] = {0x31, 0x00};
 
-struct SharedSetUp {
-    HIDDeviceConnector::ManagerFactory managerFactory;
-    RunLoop* mainLoop;
-    Log* log;
-};
-
-std::mutex sharedSetUpMutex;
-std::optional<SharedSetUp> sharedSetUp;
+std::atomic<HIDDeviceConnector*> sharedConnector = nullptr;
 
 } // namespace
 
@@ -32,29 +24,21 @@ HIDDeviceConnector::HIDDeviceConnector(ManagerFactory managerFactory, RunLoop& r
       notificationCenter_(notificationCenter), log_(log) {}
 
 HIDDeviceConnector::~HIDDeviceConnector() {
+    HIDDeviceConnector* self = this;
+    sharedConnector.compare_exchange_strong(self, nullptr);
     releaseSession();
 }
 
-void HIDDeviceConnector::setUpSharedInstance(ManagerFactory managerFactory, RunLoop& mainLoop,
-                                             Log& log) {
-    const std::lock_guard lock(sharedSetUpMutex);
-    sharedSetUp = SharedSetUp{std::move(managerFactory), &mainLoop, &log};
+void HIDDeviceConnector::becomeSharedInstance() {
+    [[maybe_unused]] HIDDeviceConnector* none = nullptr;
+    [[maybe_unused]] const bool first = sharedConnector.compare_exchange_strong(none, this);
+    assert(first && "one shared HIDDeviceConnector at a time");
 }
 
 HIDDeviceConnector& HIDDeviceConnector::sharedInstance() {
-    // Never destroyed: the loop and the log it was given may be gone when statics are destroyed.
-    static HIDDeviceConnector* const instance = [] {
-        const std::lock_guard lock(sharedSetUpMutex);
-        if (!sharedSetUp) {
-            std::fputs("velmora: HIDDeviceConnector::sharedInstance() used before "
-                       "setUpSharedInstance()\n",
-                       stderr);
-            std::abort();
-        }
-        return new HIDDeviceConnector(sharedSetUp->managerFactory, *sharedSetUp->mainLoop,
-                                      NotificationCenter::defaultCenter(), *sharedSetUp->log);
-    }();
-    return *instance;
+    HIDDeviceConnector* const connector = sharedConnector.load();
+    assert(connector && "sharedInstance() outside the life of main's connector");
+    return *connector;
 }
 
 void HIDDeviceConnector::connectDataToDevice() {

@@ -37,16 +37,15 @@ public:
     // Every session gets a new manager from the factory.
     HIDDeviceConnector(ManagerFactory managerFactory, RunLoop& runLoop,
                        NotificationCenter& notificationCenter, Log& log);
-    // Releases the session without a notification.
+    // Releases the session without a notification; stops being the shared instance.
     ~HIDDeviceConnector() override;
     HIDDeviceConnector(const HIDDeviceConnector&) = delete;
     HIDDeviceConnector& operator=(const HIDDeviceConnector&) = delete;
 
-    // The application hands over, once and before the first sharedInstance(), its main loop, its
-    // log and where its instrument is: hidapi's manager, or the simulated instrument under
-    // --simulate. The shared connector posts on the default notification centre.
-    static void setUpSharedInstance(ManagerFactory managerFactory, RunLoop& mainLoop, Log& log);
-    // The application's connector, created on first use; safe to call from any thread.
+    // The application's main makes its one connector, owns it and makes it the shared instance
+    // for as long as it lives. Only one connector is shared at a time.
+    void becomeSharedInstance();
+    // The application's connector; safe to call from any thread while main's connector lives.
     static HIDDeviceConnector& sharedInstance();
 
     void connectDataToDevice() override;

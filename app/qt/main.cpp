@@ -5,8 +5,10 @@
 #include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/qt/options.h"
+#include "app/qt/qt_locale.h"
 #include "app/qt/qt_localized_strings.h"
 #include "app/qt/qt_pdf_leaks.h"
+#include "app/qt/qt_run_loop.h"
 #include "app/qt/startup_report.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
@@ -14,8 +16,6 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
-#include "app/qt/qt_locale.h"
-#include "app/qt/qt_run_loop.h"
 #include "ui/qt/message_box_alert_presenter.h"
 
 #include <QApplication>
@@ -65,6 +65,16 @@ AppDelegate::ContainerFactory containerInDataFolder() {
     };
 }
 
+// Everything the application is made of lives in run() and goes in the reverse order of its
+// making, so the shutdown order reads from the bottom up:
+// 1. QApplication::exec() returns after aboutToQuit, where the delegate tells the connector
+//    applicationTerminated: its timer stops and its HID manager is unscheduled, which stops and
+//    joins the hidapi worker thread. From then on nothing is sent to the instrument or posted.
+// 2. The shell goes: the window, then the controller, which stops observing the connector.
+// 3. The delegate goes, then the connector, which releases its manager and device (the worker
+//    already joined, nothing posts to the run loop any more).
+// 4. The run loop goes, dropping the tasks still queued, then the application object, the alert
+//    presenter and the log.
 int run(int argc, char** argv) {
     const auto started = std::chrono::steady_clock::now();
     Options options;
@@ -87,12 +97,12 @@ int run(int argc, char** argv) {
     useLightAppearance(application);
 
     QtRunLoop runLoop(&application);
-    HIDDeviceConnector::setUpSharedInstance(*managers, runLoop, log);
+    HIDDeviceConnector connector(*managers, runLoop, NotificationCenter::defaultCenter(), log);
+    connector.becomeSharedInstance();
 
     QtSystemLocale locale;
     DesktopWorkspace workspace;
     DialogScreenPresenter screens(workspace, Bundle::main());
-    HIDDeviceConnector& connector = HIDDeviceConnector::sharedInstance();
     const QtLocalizedStrings strings("AppDelegate");
     AppDelegate delegate(connector, containerInDataFolder(), alerts, strings, log);
     const auto referenceFile = options.reference

@@ -156,20 +156,23 @@ TEST_F(HIDDeviceConnectorTest, EveryInputReportIsPostedAsItsReadingText) {
     }
 }
 
-TEST(HIDDeviceConnectorShared, PostsOnTheDefaultCentre) {
-    // The shared connector is never destroyed, so neither is what it was given.
-    static auto* const loop = new ManualRunLoop;
-    static auto* const log = new RecordingLog;
-    static auto* const bus = new FakeHidBus;
-    HIDDeviceConnector::setUpSharedInstance(bus->managerFactory(), *loop, *log);
+TEST(HIDDeviceConnectorShared, IsTheConnectorItsOwnerMadeSharedForAsLongAsThatLives) {
+    ManualRunLoop loop;
+    RecordingLog log;
+    FakeHidBus bus;
     auto& center = NotificationCenter::defaultCenter();
     int connected = 0;
     const auto token =
         center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { ++connected; });
-    HIDDeviceConnector::sharedInstance().connectDataToDevice();
-    HIDDeviceConnector::sharedInstance().disconnectDataToDevice();
+    for (int life = 0; life < 2; ++life) { // a second owner may share its own after the first
+        HIDDeviceConnector connector(bus.managerFactory(), loop, center, log);
+        connector.becomeSharedInstance();
+        EXPECT_EQ(&HIDDeviceConnector::sharedInstance(), &connector);
+        HIDDeviceConnector::sharedInstance().connectDataToDevice();
+        HIDDeviceConnector::sharedInstance().disconnectDataToDevice();
+    }
     center.removeObserver(token);
-    EXPECT_EQ(connected, 1);
+    EXPECT_EQ(connected, 2);
 }
 
 } // namespace
