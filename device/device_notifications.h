@@ -15,7 +15,7 @@ namespace velmora {
 struct MatchedHIDDevice {
     std::int64_t productId = 0;
     std::int64_t vendorId = 0;
-    std::optional<std::string> name;
+    std::optional<std::string> name = std::nullopt;
 
     bool operator==(const MatchedHIDDevice&) const = default;
 };

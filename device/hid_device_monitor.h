@@ -26,8 +26,8 @@ struct HIDDevice {
     std::int64_t vendorId = 0;
     std::int64_t productId = 0;
     std::int64_t reportSize = 0; // the device's largest input report
-    std::shared_ptr<WatchedHidDevice> device;
-    std::string name;
+    std::shared_ptr<WatchedHidDevice> device = nullptr;
+    std::string name = {};
 
     static HIDDevice from(const std::shared_ptr<WatchedHidDevice>& device);
 };
