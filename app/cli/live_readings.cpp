@@ -16,15 +16,16 @@ namespace {
 // session as --count does, so the instrument is still told Disconnect.
 void runUntilInterrupted(EventLoop& loop) {
     StopSignal interrupted;
-    const auto ending = watchPlatform().endOn(interrupted);
-    // Without a pipe to wait on, Ctrl-C keeps its default: it ends the process.
-    std::optional<std::jthread> waiter;
-    if (interrupted.valid()) {
-        waiter.emplace([&] {
-            interrupted.wait();
-            loop.stop();
-        });
+    // Without a pipe to wait on, Ctrl-C and SIGTERM keep their default: they end the process.
+    if (!interrupted.valid()) {
+        loop.run();
+        return;
     }
+    const auto ending = watchPlatform().endOn(interrupted);
+    const std::jthread waiter([&] {
+        interrupted.wait();
+        loop.stop();
+    });
     loop.run();
     // Releases the waiter; the stop it then gives the loop is never seen, the loop is done.
     interrupted.request();
