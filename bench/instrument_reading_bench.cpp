@@ -46,10 +46,8 @@ public:
 // What the live reading panel does with each reading.
 NotificationCenter::Token showReadings(NotificationCenter& center, const Locale& locale,
                                        std::string& field) {
-    return center.addObserver(HIDDeviceDataReceived, [&](const Notification& n) {
-        if (const Value* data = n.object["data"]; data && data->asString()) {
-            field = formatReadingForDisplay(*data->asString(), locale);
-        }
+    return center.addObserver<HIDDeviceDataReceived>([&](const HIDDeviceDataReceived& reading) {
+        field = formatReadingForDisplay(reading.data, locale);
     });
 }
 
@@ -61,8 +59,7 @@ void BM_ReportToDisplayText(benchmark::State& state) {
     std::uint8_t report[8] = {0x04, 0x06, 0, 0, 0, 0, 0, 0};
     for (auto _ : state) {
         report[0] = static_cast<std::uint8_t>(report[0] + 1);
-        center.post(HIDDeviceDataReceived,
-                    Dictionary{{"data", decodeReading(report[0], report[1])}});
+        center.post(HIDDeviceDataReceived{decodeReading(report[0], report[1])});
         benchmark::DoNotOptimize(field.data());
     }
 }

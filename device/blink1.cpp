@@ -72,7 +72,7 @@ void Blink1::deviceRemoved(const std::shared_ptr<WatchedHidDevice>& removed) {
         return;
     }
     out_ << "Device removed" << std::endl;
-    center_.post(deviceDisconnected, Value(), Dictionary{{"class", className}});
+    center_.post(DeviceDisconnected{className});
 }
 
 } // namespace velmora

@@ -13,11 +13,15 @@
 #include <iostream>
 #include <memory>
 #include <span>
+#include <string>
+#include <string_view>
 
 namespace velmora {
 
-// No object; user info {"class": "Velmora_Software.Blink1"}.
-inline constexpr char deviceDisconnected[] = "deviceDisconnected";
+struct DeviceDisconnected {
+    static constexpr std::string_view name = "deviceDisconnected";
+    std::string className; // whose device it was: "Velmora_Software.Blink1"
+};
 
 class Blink1 {
 public:

@@ -18,7 +18,7 @@ void DFUDevice::devicesAttached(UsbServices& services) {
             usb::printOpenError(out_, opened.code);
             continue;
         }
-        center_.post(DFUDeviceConnected);
+        center_.post(DFUDeviceConnected{});
         usb::printLine(out_, "DFU device has been device connected");
     }
 }
@@ -26,7 +26,7 @@ void DFUDevice::devicesAttached(UsbServices& services) {
 void DFUDevice::devicesRemoved(UsbServices& services) {
     for (auto& service : services) {
         if (usb::releaseRemoved(*service, out_)) {
-            center_.post(DFUDeviceDisconnected);
+            center_.post(DFUDeviceDisconnected{});
             usb::printLine(out_, "DFU device has been disconnected");
         }
     }

@@ -14,12 +14,17 @@
 #include <cstdint>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 namespace velmora {
 
-// Both without object.
-inline constexpr char DFUDeviceConnected[] = "DFUDeviceConnected";
-inline constexpr char DFUDeviceDisconnected[] = "DFUDeviceDisconnected";
+// Both carry nothing: there is only the instrument to watch.
+struct DFUDeviceConnected {
+    static constexpr std::string_view name = "DFUDeviceConnected";
+};
+struct DFUDeviceDisconnected {
+    static constexpr std::string_view name = "DFUDeviceDisconnected";
+};
 
 class DFUDevice : public UsbServiceHandler {
 public:

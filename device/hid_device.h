@@ -8,8 +8,11 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace velmora {
+
+using Bytes = std::vector<std::uint8_t>;
 
 class HidDevice {
 public:

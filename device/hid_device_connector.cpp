@@ -4,9 +4,8 @@
 #include "device/reading.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <mutex>
+#include <atomic>
+#include <cassert>
 
 namespace velmora {
 
@@ -15,14 +14,7 @@ namespace {
 constexpr std::uint8_t connectReport[] = {0x80, 0x80};
 constexpr std::uint8_t updateReport[] = {0x31, 0x00};
 
-struct SharedSetUp {
-    HIDDeviceConnector::ManagerFactory managerFactory;
-    RunLoop* mainLoop;
-    Log* log;
-};
-
-std::mutex sharedSetUpMutex;
-std::optional<SharedSetUp> sharedSetUp;
+std::atomic<HIDDeviceConnector*> sharedConnector = nullptr;
 
 } // namespace
 
@@ -32,29 +24,21 @@ HIDDeviceConnector::HIDDeviceConnector(ManagerFactory managerFactory, RunLoop& r
       notificationCenter_(notificationCenter), log_(log) {}
 
 HIDDeviceConnector::~HIDDeviceConnector() {
+    HIDDeviceConnector* self = this;
+    sharedConnector.compare_exchange_strong(self, nullptr);
     releaseSession();
 }
 
-void HIDDeviceConnector::setUpSharedInstance(ManagerFactory managerFactory, RunLoop& mainLoop,
-                                             Log& log) {
-    const std::lock_guard lock(sharedSetUpMutex);
-    sharedSetUp = SharedSetUp{std::move(managerFactory), &mainLoop, &log};
+void HIDDeviceConnector::becomeSharedInstance() {
+    [[maybe_unused]] HIDDeviceConnector* none = nullptr;
+    [[maybe_unused]] const bool first = sharedConnector.compare_exchange_strong(none, this);
+    assert(first && "one shared HIDDeviceConnector at a time");
 }
 
 HIDDeviceConnector& HIDDeviceConnector::sharedInstance() {
-    // Never destroyed: the loop and the log it was given may be gone when statics are destroyed.
-    static HIDDeviceConnector* const instance = [] {
-        const std::lock_guard lock(sharedSetUpMutex);
-        if (!sharedSetUp) {
-            std::fputs("velmora: HIDDeviceConnector::sharedInstance() used before "
-                       "setUpSharedInstance()\n",
-                       stderr);
-            std::abort();
-        }
-        return new HIDDeviceConnector(sharedSetUp->managerFactory, *sharedSetUp->mainLoop,
-                                      NotificationCenter::defaultCenter(), *sharedSetUp->log);
-    }();
-    return *instance;
+    HIDDeviceConnector* const connector = sharedConnector.load();
+    assert(connector && "sharedInstance() outside the life of main's connector");
+    return *connector;
 }
 
 void HIDDeviceConnector::connectDataToDevice() {
@@ -62,7 +46,7 @@ void HIDDeviceConnector::connectDataToDevice() {
     if (isDeviceFound && !isDataConnected) {
         isDataConnected = true;
         sendOutputReport(connectReport[0], connectReport[1]);
-        notificationCenter_.post(HIDDeviceConnected, Dictionary{{"device", matchingDict}});
+        notificationCenter_.post(HIDDeviceConnected{matchingDict});
         log_.info("[INFO] Send (50,100) is Data to Device");
     }
     log_.info("[INFO] Connect >> ");
@@ -81,7 +65,7 @@ void HIDDeviceConnector::initHID() {
     hidManager = managerFactory_();
     hidManager->scheduleWithRunLoop(runLoop_);
     hidManager->open();
-    matchingDict = Dictionary{{"ProductID", int{productId}}, {"VendorID", int{vendorId}}};
+    matchingDict = {.productId = productId, .vendorId = vendorId};
     hidManager->setDeviceMatching({vendorId, productId});
 
     const auto devices = hidManager->copyDevices();
@@ -96,7 +80,7 @@ void HIDDeviceConnector::initHID() {
         hidDevice->registerInputReportCallback(
             [this](std::span<const std::uint8_t> report) { inputReportReceived(report); });
         if (auto name = hidDevice->productProperty()) {
-            matchingDict.set("name", std::move(*name));
+            matchingDict.name = std::move(*name);
         }
         sendOutputReport(connectReport[0], connectReport[1]);
         isDeviceFound = true;
@@ -114,8 +98,8 @@ void HIDDeviceConnector::termHID() {
     isDataConnected = false;
     isDeviceFound = false;
     releaseSession();
-    matchingDict.clear();
-    notificationCenter_.post(HIDDeviceDisconnected, Dictionary{{"device", matchingDict}});
+    matchingDict = {};
+    notificationCenter_.post(HIDDeviceDisconnected{});
 }
 
 void HIDDeviceConnector::update_toDevice() {
@@ -138,15 +122,14 @@ void HIDDeviceConnector::applicationTerminated() {
         hidManager->registerDeviceRemovalCallback({});
         hidManager->unscheduleFromRunLoop();
     }
-    matchingDict.clear();
+    matchingDict = {};
     cancelUpdateTimer();
 }
 
 void HIDDeviceConnector::inputReportReceived(std::span<const std::uint8_t> report) {
     // A short report leaves the rest of the buffer as the previous one left it.
     std::copy_n(report.begin(), std::min(report.size(), inputReport.size()), inputReport.begin());
-    notificationCenter_.post(HIDDeviceDataReceived,
-                             Dictionary{{"data", decodeReading(inputReport[0], inputReport[1])}});
+    notificationCenter_.post(HIDDeviceDataReceived{decodeReading(inputReport[0], inputReport[1])});
 }
 
 void HIDDeviceConnector::sendOutputReport(std::uint8_t byte0, std::uint8_t byte1) {

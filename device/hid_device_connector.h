@@ -8,13 +8,13 @@
 // Everything runs on the run loop's thread; the HID manager's callbacks and the timer are
 // scheduled on it.
 
+#include "device/device_notifications.h"
 #include "device/hid_manager.h"
 #include "device/instrument_link.h"
 #include "device/instrument_usb_ids.h"
 #include "foundation/log.h"
 #include "foundation/notification_center.h"
 #include "foundation/run_loop.h"
-#include "foundation/value.h"
 
 #include <array>
 #include <chrono>
@@ -38,16 +38,15 @@ public:
     // Every session gets a new manager from the factory.
     HIDDeviceConnector(ManagerFactory managerFactory, RunLoop& runLoop,
                        NotificationCenter& notificationCenter, Log& log);
-    // Releases the session without a notification.
+    // Releases the session without a notification; stops being the shared instance.
     ~HIDDeviceConnector() override;
     HIDDeviceConnector(const HIDDeviceConnector&) = delete;
     HIDDeviceConnector& operator=(const HIDDeviceConnector&) = delete;
 
-    // The application hands over, once and before the first sharedInstance(), its main loop, its
-    // log and where its instrument is: hidapi's manager, or the simulated instrument under
-    // --simulate. The shared connector posts on the default notification centre.
-    static void setUpSharedInstance(ManagerFactory managerFactory, RunLoop& mainLoop, Log& log);
-    // The application's connector, created on first use; safe to call from any thread.
+    // The application's main makes its one connector, owns it and makes it the shared instance
+    // for as long as it lives. Only one connector is shared at a time.
+    void becomeSharedInstance();
+    // The application's connector; safe to call from any thread while main's connector lives.
     static HIDDeviceConnector& sharedInstance();
 
     void connectDataToDevice() override;
@@ -76,7 +75,7 @@ private:
     bool isDeviceFound = false;
     std::unique_ptr<HidManager> hidManager;
     std::shared_ptr<HidDevice> hidDevice;
-    Dictionary matchingDict;
+    MatchedHIDDevice matchingDict;
     std::array<std::uint8_t, reportSize> inputReport{};
     std::array<std::uint8_t, reportSize> outputReport{};
     std::optional<RunLoop::TimerId> updateTimer;

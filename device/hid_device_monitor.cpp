@@ -1,7 +1,5 @@
 #include "device/hid_device_monitor.h"
 
-#include "device/device_notifications.h"
-
 #include <algorithm>
 
 namespace velmora {
@@ -9,14 +7,14 @@ namespace velmora {
 namespace {
 
 std::int64_t numberOr0(const WatchedHidDevice& device, const char* key) {
-    const Value value = device.property(key);
-    const std::int64_t* number = value.asInt();
+    const HidProperty value = device.property(key);
+    const std::int64_t* number = std::get_if<std::int64_t>(&value);
     return number ? *number : 0;
 }
 
 std::string textOrEmpty(const WatchedHidDevice& device, const char* key) {
-    const Value value = device.property(key);
-    const std::string* text = value.asString();
+    const HidProperty value = device.property(key);
+    const std::string* text = std::get_if<std::string>(&value);
     return text ? *text : std::string();
 }
 
@@ -47,8 +45,7 @@ void HIDDeviceMonitor::start() {
 void HIDDeviceMonitor::inputReportReceived(std::span<const std::uint8_t> report) {
     const auto length =
         std::min(report.size(), static_cast<std::size_t>(std::max<std::int64_t>(reportSize, 0)));
-    center_.post(HIDDeviceDataReceived,
-                 Dictionary{{"data", Bytes(report.begin(), report.begin() + length)}});
+    center_.post(HIDMonitorDataReceived{Bytes(report.begin(), report.begin() + length)});
 }
 
 void HIDDeviceMonitor::deviceAttached(const std::shared_ptr<WatchedHidDevice>& device) {
@@ -57,15 +54,14 @@ void HIDDeviceMonitor::deviceAttached(const std::shared_ptr<WatchedHidDevice>& d
     }
     device->registerInputReportCallback(
         [this](std::span<const std::uint8_t> report) { inputReportReceived(report); });
-    center_.post(HIDDeviceConnected,
-                 Dictionary{{"device", Value::Record{HIDDevice::from(device)}}});
+    center_.post(HIDMonitorDeviceConnected{HIDDevice::from(device)});
 }
 
 void HIDDeviceMonitor::deviceRemoved(const std::shared_ptr<WatchedHidDevice>& device) {
     if (!device) {
         return;
     }
-    center_.post(HIDDeviceDisconnected, Dictionary{{"id", HIDDevice::from(device).id}});
+    center_.post(HIDDeviceDisconnected{HIDDevice::from(device).id});
 }
 
 } // namespace velmora

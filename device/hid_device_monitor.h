@@ -7,6 +7,7 @@
 // of their own. Nothing in the application starts it: it is what a technician runs to see what is
 // plugged in.
 
+#include "device/device_notifications.h"
 #include "device/hid_watcher.h"
 #include "foundation/notification_center.h"
 
@@ -18,18 +19,29 @@
 
 namespace velmora {
 
-// One attached device, as HIDDeviceConnected carries it in {"device": the HIDDevice as a record}.
-// HIDDeviceDisconnected carries {"id": its id}; HIDDeviceDataReceived {"data": the report's
-// bytes}.
+// One attached device, as the monitor's HIDDeviceConnected carries it; its HIDDeviceDisconnected
+// carries the id.
 struct HIDDevice {
     std::string id; // the "LocationID" when it is text, else empty
     std::int64_t vendorId = 0;
     std::int64_t productId = 0;
     std::int64_t reportSize = 0; // the device's largest input report
-    std::shared_ptr<WatchedHidDevice> device;
-    std::string name;
+    std::shared_ptr<WatchedHidDevice> device = nullptr;
+    std::string name = {};
 
     static HIDDevice from(const std::shared_ptr<WatchedHidDevice>& device);
+};
+
+// The monitor's payloads under the session's names: the window, which observes the session's,
+// does not see these.
+struct HIDMonitorDeviceConnected {
+    static constexpr std::string_view name = HIDDeviceConnected::name;
+    HIDDevice device;
+};
+// The report's bytes, exactly as many as it has (up to the monitor's reportSize).
+struct HIDMonitorDataReceived {
+    static constexpr std::string_view name = HIDDeviceDataReceived::name;
+    Bytes data;
 };
 
 class HIDDeviceMonitor {

@@ -6,13 +6,13 @@
 // scripted fake.
 
 #include "device/hid_device.h"
-#include "foundation/value.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace velmora {
@@ -33,13 +33,17 @@ struct HIDMonitorData {
     }
 };
 
+// A device property as the HID manager keeps it: a number, a text, or none when the device lacks
+// it.
+using HidProperty = std::variant<std::monostate, std::int64_t, std::string>;
+
 // A device as a watcher hands it over: besides its reports, the properties it was found with.
 class WatchedHidDevice : public HidDevice {
 public:
     // By the HID manager's keys: "VendorID", "ProductID" and "MaxInputReportSize" are numbers,
     // "Product" is text, and "LocationID", which tells the device apart from every other one
-    // attached, is whatever the platform gives. None when the device lacks it.
-    virtual Value property(const std::string& key) const = 0;
+    // attached, is whatever the platform gives.
+    virtual HidProperty property(const std::string& key) const = 0;
 };
 
 class HidWatcher {

@@ -17,12 +17,12 @@ std::unordered_set<std::string> pathsOf(const std::vector<SerialDevice>& devices
     return paths;
 }
 
-void postEach(NotificationCenter& center, const char* name,
-              const std::vector<SerialDevice>& devices,
+template <class Change>
+void postEach(NotificationCenter& center, const std::vector<SerialDevice>& devices,
               const std::unordered_set<std::string>& except) {
     for (const auto& device : devices) {
         if (!except.contains(device.path)) {
-            center.post(name, Dictionary{{"device", Value::Record{device}}});
+            center.post(Change{device});
         }
     }
 }
@@ -62,8 +62,8 @@ void SerialDeviceMonitor::poll() {
     if (filterDevices) {
         snapshot = filterDevices(std::move(snapshot));
     }
-    postEach(center_, SerialDeviceRemoved, serialDevices, pathsOf(snapshot));
-    postEach(center_, SerialDeviceAdded, snapshot, pathsOf(serialDevices));
+    postEach<SerialDeviceRemoved>(center_, serialDevices, pathsOf(snapshot));
+    postEach<SerialDeviceAdded>(center_, snapshot, pathsOf(serialDevices));
     serialDevices = std::move(snapshot);
 }
 

@@ -13,13 +13,19 @@
 #include <cstdint>
 #include <functional>
 #include <mutex>
+#include <string_view>
 #include <vector>
 
 namespace velmora {
 
-// Both with object {"device": the SerialDevice as a record}.
-inline constexpr char SerialDeviceAdded[] = "SerialDeviceAdded";
-inline constexpr char SerialDeviceRemoved[] = "SerialDeviceRemoved";
+struct SerialDeviceAdded {
+    static constexpr std::string_view name = "SerialDeviceAdded";
+    SerialDevice device;
+};
+struct SerialDeviceRemoved {
+    static constexpr std::string_view name = "SerialDeviceRemoved";
+    SerialDevice device;
+};
 
 class SerialDeviceMonitor {
 public:

@@ -32,7 +32,7 @@ void USBDeviceMonitor::devicesAttached(UsbServices& services) {
         device.productId = *productId;
         device.deviceInterfacePtrPtr = std::move(reached->device);
         device.plugInInterfacePtrPtr = std::move(reached->plugIn);
-        center_.post(USBDeviceConnected, Dictionary{{"device", Value::Record{std::move(device)}}});
+        center_.post(USBDeviceConnected{std::move(device)});
     }
 }
 
@@ -40,7 +40,7 @@ void USBDeviceMonitor::devicesRemoved(UsbServices& services) {
     for (auto& service : services) {
         const std::uint64_t id = usb::registryEntryIdOrZero(*service, out_);
         if (usb::releaseRemoved(*service, out_)) {
-            center_.post(USBDeviceDisconnected, Dictionary{{"id", Value::Record{id}}});
+            center_.post(USBDeviceDisconnected{id});
         }
     }
 }

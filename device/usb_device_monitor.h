@@ -13,14 +13,10 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmora {
-
-// Object {"device": the USBDevice as a record}.
-inline constexpr char USBDeviceConnected[] = "USBDeviceConnected";
-// Object {"id": the registry entry identifier, a std::uint64_t as a record}.
-inline constexpr char USBDeviceDisconnected[] = "USBDeviceDisconnected";
 
 struct USBDevice {
     std::uint64_t id = 0;
@@ -30,6 +26,16 @@ struct USBDevice {
     // The device is kept open for as long as someone holds these.
     std::shared_ptr<UsbDeviceInterface> deviceInterfacePtrPtr;
     std::shared_ptr<UsbPlugInInterface> plugInInterfacePtrPtr;
+};
+
+struct USBDeviceConnected {
+    static constexpr std::string_view name = "USBDeviceConnected";
+    USBDevice device;
+};
+
+struct USBDeviceDisconnected {
+    static constexpr std::string_view name = "USBDeviceDisconnected";
+    std::uint64_t id = 0; // the registry entry identifier
 };
 
 class USBDeviceMonitor : public UsbServiceHandler {

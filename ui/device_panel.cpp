@@ -1,4 +1,3 @@
-#include "device/device_notifications.h"
 #include "device/reading.h"
 #include "ui/system_colors.h"
 #include "ui/view_controller.h"
@@ -23,37 +22,28 @@ void ViewController::applyDevicePanelState(DevicePanelState state) {
 
 void ViewController::observeInstrument() {
     NotificationCenter& center = environment_.notificationCenter;
-    observations_.push_back(center.addObserver(
-        HIDDeviceConnected, [this](const Notification& n) { usbConnectedWithNotification(n); }));
-    observations_.push_back(
-        center.addObserver(HIDDeviceDisconnected,
-                           [this](const Notification& n) { usbDisconnectedWithNotification(n); }));
-    observations_.push_back(center.addObserver(
-        HIDDeviceDataReceived, [this](const Notification& n) { hidReadDataWithNotification(n); }));
+    observations_.push_back(center.addObserver<HIDDeviceConnected>(
+        [this](const HIDDeviceConnected& n) { usbConnectedWithNotification(n); }));
+    observations_.push_back(center.addObserver<HIDDeviceDisconnected>(
+        [this](const HIDDeviceDisconnected& n) { usbDisconnectedWithNotification(n); }));
+    observations_.push_back(center.addObserver<HIDDeviceDataReceived>(
+        [this](const HIDDeviceDataReceived& n) { hidReadDataWithNotification(n); }));
 }
 
-void ViewController::usbConnectedWithNotification(const Notification& notification) {
-    const Value* device = notification.object["device"];
-    if (device == nullptr || device->asDictionary() == nullptr) {
-        return;
-    }
+void ViewController::usbConnectedWithNotification(const HIDDeviceConnected&) {
     // The flag changes now, the panel after the current event: the rest of a Connect action
     // already sees the instrument as connected.
     queueDevicePanelState(DevicePanelState::Connected);
     isUSBStatus = true;
 }
 
-void ViewController::usbDisconnectedWithNotification(const Notification&) {
+void ViewController::usbDisconnectedWithNotification(const HIDDeviceDisconnected&) {
     queueDevicePanelState(DevicePanelState::Disconnected);
     isUSBStatus = false;
 }
 
-void ViewController::hidReadDataWithNotification(const Notification& notification) {
-    const Value* data = notification.object["data"];
-    if (data == nullptr || data->asString() == nullptr) {
-        return;
-    }
-    usb_device_reading.setText(formatReadingForDisplay(*data->asString(), environment_.locale));
+void ViewController::hidReadDataWithNotification(const HIDDeviceDataReceived& notification) {
+    usb_device_reading.setText(formatReadingForDisplay(notification.data, environment_.locale));
 }
 
 void ViewController::btn_connect_tap(Button&) {

@@ -8,6 +8,7 @@
 // Work it queues on the run loop refers to the controller: run or drop it before the controller
 // goes.
 
+#include "device/device_notifications.h"
 #include "device/instrument_link.h"
 #include "foundation/locale.h"
 #include "foundation/notification_center.h"
@@ -100,9 +101,9 @@ public:
     // The live reading panel (device_panel.cpp)
     void applyDevicePanelState(DevicePanelState state);
     void queueDevicePanelState(DevicePanelState state);
-    void usbConnectedWithNotification(const Notification& notification);
-    void usbDisconnectedWithNotification(const Notification& notification);
-    void hidReadDataWithNotification(const Notification& notification);
+    void usbConnectedWithNotification(const HIDDeviceConnected& notification);
+    void usbDisconnectedWithNotification(const HIDDeviceDisconnected& notification);
+    void hidReadDataWithNotification(const HIDDeviceDataReceived& notification);
     void btn_connect_tap(Button& sender);
     void btn_disConnect_tap(Button& sender);
 

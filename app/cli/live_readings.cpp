@@ -1,61 +1,56 @@
 #include "app/cli/live_readings.h"
 
 #include "app/cli/output.h"
-#include "device/device_notifications.h"
+#include "app/cli/watch_platform.h"
 #include "device/reading.h"
 #include "foundation/posix/event_loop.h"
 
-#include <atomic>
-#include <csignal>
 #include <ostream>
+#include <thread>
 
 namespace velmora::cli {
 
 namespace {
 
-// Ctrl-C ends the session as --count does, so the instrument is still told Disconnect.
-class StopOnInterrupt {
-public:
-    explicit StopOnInterrupt(EventLoop& loop) {
-        loop_.store(&loop);
-        struct sigaction action {};
-        action.sa_handler = [](int) {
-            if (auto* loop = loop_.load()) {
-                loop->stop();
-            }
-        };
-        sigemptyset(&action.sa_mask);
-        sigaction(SIGINT, &action, &previous_);
+// Runs the loop on this thread until it is stopped, or until Ctrl-C or SIGTERM, which end the
+// session as --count does, so the instrument is still told Disconnect.
+void runUntilInterrupted(EventLoop& loop) {
+    StopSignal interrupted;
+    // Without a pipe to wait on, Ctrl-C and SIGTERM keep their default: they end the process.
+    if (!interrupted.valid()) {
+        loop.run();
+        return;
     }
-    ~StopOnInterrupt() {
-        sigaction(SIGINT, &previous_, nullptr);
-        loop_.store(nullptr);
-    }
-    StopOnInterrupt(const StopOnInterrupt&) = delete;
-    StopOnInterrupt& operator=(const StopOnInterrupt&) = delete;
-
-private:
-    static inline std::atomic<EventLoop*> loop_{nullptr};
-    struct sigaction previous_ {};
-};
+    const auto ending = watchPlatform().endOn(interrupted);
+    const std::jthread waiter([&] {
+        interrupted.wait();
+        loop.stop();
+    });
+    loop.run();
+    // Releases the waiter; the stop it then gives the loop is never seen, the loop is done.
+    interrupted.request();
+}
 
 } // namespace
 
-bool printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& log,
-                       const Locale& locale, std::optional<int> count, bool json,
-                       std::ostream& out) {
+SessionEnd printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& log,
+                             const Locale& locale, std::optional<int> count, bool json,
+                             std::ostream& out) {
     bool connected = false;
+    bool unplugged = false;
     int printed = 0;
     EventLoop loop;
     NotificationCenter center;
-    center.addObserver(HIDDeviceConnected, [&](const Notification&) { connected = true; });
-    center.addObserver(HIDDeviceDataReceived, [&](const Notification& n) {
-        const Value* data = n.object["data"];
-        const bool done = count && printed == *count;
-        if (data == nullptr || data->asString() == nullptr || done) {
+    center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { connected = true; });
+    center.addObserver<HIDDeviceDisconnected>([&](const HIDDeviceDisconnected&) {
+        unplugged = true;
+        loop.stop();
+    });
+    center.addObserver<HIDDeviceDataReceived>([&](const HIDDeviceDataReceived& reading) {
+        if (count && printed == *count) {
             return;
         }
-        printRecord(out, json, {{"reading", formatReadingForDisplay(*data->asString(), locale)}});
+        printRecord(out, json, {{"reading", formatReadingForDisplay(reading.data, locale)}});
         out.flush();
         ++printed;
         if (count && printed == *count) {
@@ -65,12 +60,15 @@ bool printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& 
 
     HIDDeviceConnector connector(managers, loop, center, log);
     connector.connectDataToDevice();
-    if (connected) {
-        const StopOnInterrupt interrupt(loop);
-        loop.run();
+    if (!connected) {
+        connector.disconnectDataToDevice();
+        return SessionEnd::NoInstrument;
     }
+    runUntilInterrupted(loop);
+    // Only an unplugging ends the session by itself: taken before Disconnect posts its own.
+    const bool wasUnplugged = unplugged;
     connector.disconnectDataToDevice();
-    return connected;
+    return wasUnplugged ? SessionEnd::Unplugged : SessionEnd::Stopped;
 }
 
 } // namespace velmora::cli

@@ -12,11 +12,16 @@
 
 namespace velmora::cli {
 
+enum class SessionEnd {
+    NoInstrument, // Connect found none; nothing was printed
+    Unplugged,    // the instrument went away mid-stream
+    Stopped,      // count readings printed, or Ctrl-C or SIGTERM
+};
+
 // Runs the session on its own event loop until count readings are printed (or for ever without a
-// count) or until Ctrl-C, then disconnects. False, with nothing printed, when Connect found no
-// instrument.
-bool printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& log,
-                       const Locale& locale, std::optional<int> count, bool json,
-                       std::ostream& out);
+// count), the instrument is unplugged, or the command is told to end; then disconnects.
+SessionEnd printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& log,
+                             const Locale& locale, std::optional<int> count, bool json,
+                             std::ostream& out);
 
 } // namespace velmora::cli

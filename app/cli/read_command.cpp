@@ -1,6 +1,6 @@
 #include "app/cli/cli.h"
 #include "app/cli/live_readings.h"
-#include "device/hidapi/hidapi_manager.h"
+#include "app/cli/watch_platform.h"
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
@@ -53,7 +53,7 @@ void addReadCommand(CLI::App& app, Context& context) {
         bool accessDenied = false;
         HIDDeviceConnector::ManagerFactory managers;
         if (simulate->count() == 0) {
-            managers = hidapi::hidapiManagerFactory(log, [&accessDenied] { accessDenied = true; });
+            managers = watchPlatform().instrument(log, [&accessDenied] { accessDenied = true; });
         } else if (options->replayFile.empty()) {
             managers = sim::simulatedInstrumentFactory(
                 std::make_shared<sim::SimulatedSession>(simulationSeed));
@@ -70,8 +70,9 @@ void addReadCommand(CLI::App& app, Context& context) {
         }
 
         const auto locale = displayLocale(context);
-        if (!printLiveReadings(managers, log, *locale, options->count, context.json,
-                               *context.out)) {
+        switch (
+            printLiveReadings(managers, log, *locale, options->count, context.json, *context.out)) {
+        case SessionEnd::NoInstrument:
             // Not an alert: the window shows none when Connect finds no instrument, its panel
             // just stays Disconnected. A script still has to learn that no reading will come.
             // A refused device was already explained by the HID layer.
@@ -80,6 +81,13 @@ void addReadCommand(CLI::App& app, Context& context) {
                                 "refractometer in over USB, or try --simulate\n";
             }
             context.exitCode = exitAlert;
+            break;
+        case SessionEnd::Unplugged:
+            *context.err << "velmora-cli: the instrument was unplugged\n";
+            context.exitCode = exitAlert;
+            break;
+        case SessionEnd::Stopped:
+            break;
         }
     });
 }

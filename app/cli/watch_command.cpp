@@ -69,15 +69,9 @@ std::string takersOf(const std::string& option) {
 class NotificationPrinter {
 public:
     NotificationPrinter(const WatchSource& source, Context& context) {
-        NotificationCenter& center = NotificationCenter::defaultCenter();
-        for (const auto& notification : source.notifications) {
-            const WatchSource::FieldsOf& fieldsOf = notification.second;
-            tokens_.push_back(center.addObserver(
-                notification.first, [&context, &fieldsOf](const Notification& n) {
-                    Fields fields{{"notification", n.name}};
-                    for (auto& field : fieldsOf(n)) {
-                        fields.push_back(std::move(field));
-                    }
+        for (const auto& subscribe : source.notifications) {
+            tokens_.push_back(
+                subscribe(NotificationCenter::defaultCenter(), [&context](const Fields& fields) {
                     printRecord(*context.out, context.json, fields);
                     context.out->flush();
                 }));

@@ -1,5 +1,6 @@
 #include "app/cli/watch_platform.h"
 
+#include "device/hidapi/hidapi_manager.h"
 #include "device/hidapi/hidapi_watcher.h"
 #include "device/libusb/libusb_watcher.h"
 #include "device/serial/qt_serial_port_source.h"
@@ -33,6 +34,9 @@ WatchPlatform& watchPlatform() {
         machineHidWatcher,
         makeLibusbWatcher,
         [] { return std::make_unique<QtSerialPortSource>(); },
+        [](Log& log, std::function<void()> accessDenied) {
+            return hidapi::hidapiManagerFactory(log, std::move(accessDenied));
+        },
         [](StopSignal& stop) { return std::make_shared<InterruptRequestsStop>(stop); },
     };
     return platform;

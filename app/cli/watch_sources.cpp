@@ -22,17 +22,13 @@ std::string hex16(const std::optional<std::int64_t>& value) {
     return value ? hex(static_cast<std::uint64_t>(*value), 4) : std::string();
 }
 
-Fields serialFields(const Notification& notification) {
-    const auto* device = recordIn<SerialDevice>(notification.object, "device");
-    if (device == nullptr) {
-        return {};
-    }
-    return {{"path", device->path},
-            {"name", device->name.value_or("")},
-            {"vendorName", device->vendorName.value_or("")},
-            {"serialNumber", device->serialNumber.value_or("")},
-            {"vendorId", hex16(device->vendorId)},
-            {"productId", hex16(device->productId)}};
+Fields serialFields(const SerialDevice& device) {
+    return {{"path", device.path},
+            {"name", device.name.value_or("")},
+            {"vendorName", device.vendorName.value_or("")},
+            {"serialNumber", device.serialNumber.value_or("")},
+            {"vendorId", hex16(device.vendorId)},
+            {"productId", hex16(device.productId)}};
 }
 
 } // namespace
@@ -41,22 +37,16 @@ WatchSource usbSource() {
     return {
         "usb",
         {"--vendor", "--product"},
-        {{USBDeviceConnected,
-          [](const Notification& notification) -> Fields {
-              const auto* device = recordIn<USBDevice>(notification.object, "device");
-              if (device == nullptr) {
-                  return {};
-              }
-              return {{"id", hex(device->id, 16)},
-                      {"vendorId", hex(device->vendorId, 4)},
-                      {"productId", hex(device->productId, 4)},
-                      {"name", device->name}};
-          }},
-         {USBDeviceDisconnected,
-          [](const Notification& notification) -> Fields {
-              const auto* id = recordIn<std::uint64_t>(notification.object, "id");
-              return id ? Fields{{"id", hex(*id, 16)}} : Fields{};
-          }}},
+        {printed<USBDeviceConnected>([](const USBDeviceConnected& notification) -> Fields {
+             const USBDevice& device = notification.device;
+             return {{"id", hex(device.id, 16)},
+                     {"vendorId", hex(device.vendorId, 4)},
+                     {"productId", hex(device.productId, 4)},
+                     {"name", device.name}};
+         }),
+         printed<USBDeviceDisconnected>([](const USBDeviceDisconnected& notification) -> Fields {
+             return {{"id", hex(notification.id, 16)}};
+         })},
         [](const WatchOptions& options, Context& context,
            std::ostream& lines) -> std::unique_ptr<Watch> {
             std::string error;
@@ -79,7 +69,10 @@ WatchSource serialSource() {
     return {
         "serial",
         {"--vendor", "--product", "--interval"},
-        {{SerialDeviceRemoved, serialFields}, {SerialDeviceAdded, serialFields}},
+        {printed<SerialDeviceRemoved>(
+             [](const SerialDeviceRemoved& removed) { return serialFields(removed.device); }),
+         printed<SerialDeviceAdded>(
+             [](const SerialDeviceAdded& added) { return serialFields(added.device); })},
         [](const WatchOptions& options, Context& context,
            std::ostream& /*lines*/) -> std::unique_ptr<Watch> {
             auto watch = std::make_unique<MonitorWatch<SerialPortSource, SerialDeviceMonitor>>(

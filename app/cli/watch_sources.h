@@ -7,9 +7,7 @@
 #include "app/cli/output.h"
 #include "device/instrument_usb_ids.h"
 #include "foundation/notification_center.h"
-#include "foundation/value.h"
 
-#include <any>
 #include <cstdint>
 #include <functional>
 #include <iosfwd>
@@ -57,12 +55,14 @@ private:
 };
 
 struct WatchSource {
-    using FieldsOf = std::function<Fields(const Notification& notification)>;
+    // Observes one kind of notification on center, handing print the record of each.
+    using Subscribe = std::function<NotificationCenter::Token(
+        NotificationCenter& center, std::function<void(const Fields&)> print)>;
 
     std::string name; // as typed after `watch`
     // The options beyond the common ones that it takes, as typed: "--vendor", "--interval", ...
     std::vector<std::string> takes;
-    std::vector<std::pair<std::string, FieldsOf>> notifications;
+    std::vector<Subscribe> notifications;
     // The watcher's own diagnostic lines go to lines. Null after telling why on context.err and
     // setting context.exitCode.
     std::function<std::unique_ptr<Watch>(const WatchOptions& options, Context& context,
@@ -78,13 +78,21 @@ WatchSource serialSource();
 WatchSource hidSource();
 WatchSource blink1Source();
 
-// What the entries share in printing: 0x04D8 for hex(0x04D8, 4), and the record under key in a
-// notification's object, none when it is missing or of another type.
+// What the entries share in printing: 0x04D8 for hex(0x04D8, 4).
 std::string hex(std::uint64_t value, int digits);
-template <class T> const T* recordIn(const Value& object, const char* key) {
-    const Value* value = object[key];
-    const std::any* record = value ? value->asRecord() : nullptr;
-    return record ? std::any_cast<T>(record) : nullptr;
+
+// Prints each notification of type N as one record: its name, then fieldsOf(notification).
+template <Notification N, std::invocable<const N&> FieldsOf>
+WatchSource::Subscribe printed(FieldsOf fieldsOf) {
+    return [fieldsOf](NotificationCenter& center, std::function<void(const Fields&)> print) {
+        return center.addObserver<N>([fieldsOf, print = std::move(print)](const N& notification) {
+            Fields fields{{"notification", std::string(N::name)}};
+            for (auto& field : fieldsOf(notification)) {
+                fields.push_back(std::move(field));
+            }
+            print(fields);
+        });
+    };
 }
 
 } // namespace velmora::cli

@@ -1,7 +1,6 @@
 #include "app/cli/watch_platform.h"
 #include "app/cli/watch_sources.h"
 #include "device/blink1.h"
-#include "device/device_notifications.h"
 #include "device/hid_device_monitor.h"
 
 #include <cstdio>
@@ -25,12 +24,6 @@ std::string hexBytes(const Bytes& bytes) {
     return text;
 }
 
-std::string textIn(const Value& dictionary, const char* key) {
-    const Value* value = dictionary[key];
-    const std::string* text = value ? value->asString() : nullptr;
-    return text ? *text : std::string();
-}
-
 std::unique_ptr<HidWatcher> hidWatcher(Context& context) {
     return watchPlatform().hidWatcher(*context.err);
 }
@@ -41,28 +34,20 @@ WatchSource hidSource() {
     return {
         "hid",
         {"--vendor", "--product", "--usage-page", "--usage"},
-        {{HIDDeviceConnected,
-          [](const Notification& notification) -> Fields {
-              const auto* device = recordIn<HIDDevice>(notification.object, "device");
-              if (device == nullptr) {
-                  return {};
-              }
-              return {{"id", device->id},
-                      {"vendorId", hex(static_cast<std::uint64_t>(device->vendorId), 4)},
-                      {"productId", hex(static_cast<std::uint64_t>(device->productId), 4)},
-                      {"reportSize", std::to_string(device->reportSize)},
-                      {"name", device->name}};
-          }},
-         {HIDDeviceDataReceived,
-          [](const Notification& notification) -> Fields {
-              const Value* data = notification.object["data"];
-              const Bytes* bytes = data ? data->asBytes() : nullptr;
-              return bytes ? Fields{{"data", hexBytes(*bytes)}} : Fields{};
-          }},
-         {HIDDeviceDisconnected,
-          [](const Notification& notification) -> Fields {
-              return {{"id", textIn(notification.object, "id")}};
-          }}},
+        {printed<HIDMonitorDeviceConnected>([](const HIDMonitorDeviceConnected& notification) {
+             const HIDDevice& device = notification.device;
+             return Fields{{"id", device.id},
+                           {"vendorId", hex(static_cast<std::uint64_t>(device.vendorId), 4)},
+                           {"productId", hex(static_cast<std::uint64_t>(device.productId), 4)},
+                           {"reportSize", std::to_string(device.reportSize)},
+                           {"name", device.name}};
+         }),
+         printed<HIDMonitorDataReceived>([](const HIDMonitorDataReceived& notification) {
+             return Fields{{"data", hexBytes(notification.data)}};
+         }),
+         printed<HIDDeviceDisconnected>([](const HIDDeviceDisconnected& notification) {
+             return Fields{{"id", notification.id}};
+         })},
         [](const WatchOptions& options, Context& context,
            std::ostream& /*lines*/) -> std::unique_ptr<Watch> {
             const HIDMonitorData criterion{options.vendorId.value_or(instrumentVendorId),
@@ -80,10 +65,9 @@ WatchSource blink1Source() {
     return {
         "blink1",
         {},
-        {{deviceDisconnected,
-          [](const Notification& notification) -> Fields {
-              return {{"class", textIn(notification.userInfo, "class")}};
-          }}},
+        {printed<DeviceDisconnected>([](const DeviceDisconnected& notification) {
+            return Fields{{"class", notification.className}};
+        })},
         [](const WatchOptions& /*options*/, Context& context,
            std::ostream& lines) -> std::unique_ptr<Watch> {
             return std::make_unique<MonitorWatch<HidWatcher, Blink1, &Blink1::initUsb>>(

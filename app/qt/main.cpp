@@ -66,6 +66,16 @@ AppDelegate::ContainerFactory containerInDataFolder() {
     };
 }
 
+// Everything the application is made of lives in run() and goes in the reverse order of its
+// making, so the shutdown order reads from the bottom up:
+// 1. QApplication::exec() returns after aboutToQuit, where the delegate tells the connector
+//    applicationTerminated: its timer stops and its HID manager is unscheduled, which stops and
+//    joins the hidapi worker thread. From then on nothing is sent to the instrument or posted.
+// 2. The shell goes: the window, then the controller, which stops observing the connector.
+// 3. The delegate goes, then the connector, which releases its manager and device (the worker
+//    already joined, nothing posts to the run loop any more).
+// 4. The run loop goes, dropping the tasks still queued, then the application object, the alert
+//    presenter and the log.
 int run(int argc, char** argv) {
     const auto started = std::chrono::steady_clock::now();
     Options options;
@@ -88,12 +98,12 @@ int run(int argc, char** argv) {
     useLightAppearance(application);
 
     QtRunLoop runLoop(&application);
-    HIDDeviceConnector::setUpSharedInstance(*managers, runLoop, log);
+    HIDDeviceConnector connector(*managers, runLoop, NotificationCenter::defaultCenter(), log);
+    connector.becomeSharedInstance();
 
     QtSystemLocale locale;
     DesktopWorkspace workspace;
     DialogScreenPresenter screens(workspace, Bundle::main());
-    HIDDeviceConnector& connector = HIDDeviceConnector::sharedInstance();
     const QtLocalizedStrings strings("AppDelegate");
     AppDelegate delegate(connector, containerInDataFolder(), alerts, strings, log);
     const auto referenceFile = options.reference

@@ -5,7 +5,9 @@
 
 namespace velmora {
 
-QtRunLoop::QtRunLoop(QObject* context) : context_(context) {}
+QtRunLoop::QtRunLoop(QObject* context) : receiver_(std::make_unique<QObject>()) {
+    receiver_->moveToThread(context->thread());
+}
 
 QtRunLoop::~QtRunLoop() {
     for (auto& [id, timer] : timers_) {
@@ -14,10 +16,7 @@ QtRunLoop::~QtRunLoop() {
 }
 
 void QtRunLoop::post(Task task) {
-    // A task posted while the application object is being torn down has nowhere to run.
-    if (QObject* context = context_.data()) {
-        QMetaObject::invokeMethod(context, std::move(task), Qt::QueuedConnection);
-    }
+    QMetaObject::invokeMethod(receiver_.get(), std::move(task), Qt::QueuedConnection);
 }
 
 RunLoop::TimerId QtRunLoop::scheduleRepeating(std::chrono::milliseconds interval, Task task) {

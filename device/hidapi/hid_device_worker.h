@@ -6,9 +6,9 @@
 // it reads back through RunLoop::post, so no logic runs off the loop's thread. A failed read is
 // the device's removal: the worker posts it once and touches the device no more.
 
+#include "device/hid_device.h"
 #include "device/hidapi/hid_handle.h"
 #include "foundation/run_loop.h"
-#include "foundation/value.h"
 
 #include <chrono>
 #include <deque>

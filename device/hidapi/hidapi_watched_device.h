@@ -6,14 +6,18 @@
 #include "device/hid_watcher.h"
 #include "device/hidapi/hidapi_device.h"
 
+#include <map>
 #include <memory>
+#include <string>
 
 namespace velmora::hidapi {
+
+using HidProperties = std::map<std::string, HidProperty, std::less<>>;
 
 class HidapiWatchedDevice final : public WatchedHidDevice {
 public:
     // opened is none for a device that could not be opened: it is there, but tells nothing.
-    HidapiWatchedDevice(Dictionary properties, std::unique_ptr<HidapiDevice> opened)
+    HidapiWatchedDevice(HidProperties properties, std::unique_ptr<HidapiDevice> opened)
         : properties_(std::move(properties)), opened_(std::move(opened)) {}
 
     void registerInputReportCallback(InputReportCallback callback) override {
@@ -22,17 +26,18 @@ public:
         }
     }
     std::optional<std::string> productProperty() const override {
-        const Value* product = properties_.find("Product");
-        return product && product->asString() ? std::optional(*product->asString()) : std::nullopt;
+        const HidProperty product = property("Product");
+        const auto* text = std::get_if<std::string>(&product);
+        return text ? std::optional(*text) : std::nullopt;
     }
     void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
         if (opened_) {
             opened_->setOutputReport(reportId, report);
         }
     }
-    Value property(const std::string& key) const override {
-        const Value* value = properties_.find(key);
-        return value ? *value : Value();
+    HidProperty property(const std::string& key) const override {
+        const auto it = properties_.find(key);
+        return it != properties_.end() ? it->second : HidProperty();
     }
 
     // Stops reading and closes the device; its properties stay.
@@ -43,7 +48,7 @@ public:
     }
 
 private:
-    Dictionary properties_;
+    HidProperties properties_;
     std::unique_ptr<HidapiDevice> opened_;
 };
 

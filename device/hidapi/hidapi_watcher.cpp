@@ -44,24 +44,24 @@ std::optional<std::int64_t> maxInputReportSizeOf(const char* path) {
     return std::nullopt;
 }
 
-Dictionary propertiesOf(const hid_device_info& info) {
-    Dictionary properties{{"VendorID", int{info.vendor_id}},
-                          {"ProductID", int{info.product_id}},
-                          // The device node: what tells it apart from every other one attached.
-                          {"LocationID", std::string(info.path)},
-                          {"PrimaryUsagePage", int{info.usage_page}},
-                          {"PrimaryUsage", int{info.usage}}};
+HidProperties propertiesOf(const hid_device_info& info) {
+    HidProperties properties{{"VendorID", std::int64_t{info.vendor_id}},
+                             {"ProductID", std::int64_t{info.product_id}},
+                             // The device node: what tells it apart from every other one attached.
+                             {"LocationID", std::string(info.path)},
+                             {"PrimaryUsagePage", std::int64_t{info.usage_page}},
+                             {"PrimaryUsage", std::int64_t{info.usage}}};
     if (auto product = utf8(info.product_string)) {
-        properties.set("Product", std::move(*product));
+        properties.emplace("Product", std::move(*product));
     }
     if (auto manufacturer = utf8(info.manufacturer_string)) {
-        properties.set("Manufacturer", std::move(*manufacturer));
+        properties.emplace("Manufacturer", std::move(*manufacturer));
     }
     if (auto serialNumber = utf8(info.serial_number)) {
-        properties.set("SerialNumber", std::move(*serialNumber));
+        properties.emplace("SerialNumber", std::move(*serialNumber));
     }
     if (const auto size = maxInputReportSizeOf(info.path)) {
-        properties.set("MaxInputReportSize", *size);
+        properties.emplace("MaxInputReportSize", *size);
     }
     return properties;
 }

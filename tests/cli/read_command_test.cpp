@@ -1,5 +1,7 @@
 #include "tests/cli/cli_runner.h"
+#include "tests/support/fake_watch_platform.h"
 
+#include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <regex>
@@ -8,6 +10,7 @@ namespace velmora::test {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 // These run the real event loop: a reading every 0.1 s, so a few readings each.
 
@@ -31,6 +34,55 @@ TEST(ReadCommand, ReplaysAFileFromTheTopAgainAndRefusesOneItCannotReplay) {
     EXPECT_EQ(bad.out, "");
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "0"}).status, 2);
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "many"}).status, 2);
+}
+
+// The instrument on a fake bus answers each request with 1.540, and at the request numbered
+// `lastRequest` does `then` instead.
+struct Instrument {
+    explicit Instrument(int lastRequest, std::function<void()> then) {
+        platform.instrument(bus);
+        bus.answer = [this, lastRequest, then = std::move(then)](const SentReport& sent) {
+            if (sent.bytes[0] != 0x31) {
+                return;
+            }
+            if (++requests < lastRequest) {
+                bus.sendInputReport({0x04, 0x06});
+            } else if (requests == lastRequest) {
+                then();
+            }
+        };
+    }
+
+    FakeHidBus bus;
+    FakeWatchPlatform platform;
+    int requests = 0;
+};
+
+TEST(ReadCommand, EndsWithAMessageWhenTheInstrumentIsUnpluggedMidStream) {
+    Instrument instrument(3, [&] { instrument.bus.unplug(); });
+    const auto r = runCli({"read", "--decimal-separator", "."});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, "1.540\n1.540\n");
+    EXPECT_EQ(r.err, "velmora-cli: the instrument was unplugged\n");
+    EXPECT_EQ(instrument.bus.countSent(0x31, 0x00), 3u);
+}
+
+TEST(ReadCommand, InterruptOrTerminateEndsItCleanlyAndASecondSignalWouldEndTheProcess) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        struct sigaction afterFirst {};
+        Instrument instrument(3, [&] {
+            std::raise(signal);
+            sigaction(signal, nullptr, &afterFirst);
+        });
+        instrument.platform.keepRealInterrupts();
+        const auto r = runCli({"read", "--decimal-separator", "."});
+        EXPECT_EQ(r.status, 0) << signal;
+        EXPECT_EQ(r.err, "") << signal;
+        EXPECT_THAT(r.out, StartsWith("1.540\n1.540\n")) << signal;
+        EXPECT_EQ(afterFirst.sa_handler, SIG_DFL) << signal;
+        // Told Disconnect: the session's manager is gone.
+        EXPECT_EQ(instrument.bus.liveManagers(), 0u) << signal;
+    }
 }
 
 } // namespace

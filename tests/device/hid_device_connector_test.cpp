@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <variant>
 
 namespace velmora::test {
 namespace {
@@ -16,31 +17,29 @@ using ::testing::IsEmpty;
 
 const SentReport connectReport{0, {0x80, 0x80, 0, 0, 0, 0, 0, 0}};
 const SentReport updateReport{0, {0x31, 0x00, 0, 0, 0, 0, 0, 0}};
-const Value instrument = Dictionary{
-    {"device",
-     Dictionary{{"ProductID", 63999}, {"VendorID", 1240}, {"name", "Velmora Refractometer"}}}};
+const MatchedHIDDevice instrument{
+    .productId = 63999, .vendorId = 1240, .name = "Velmora Refractometer"};
 
 // A notification as it was posted, with how many reports had been sent by then.
 struct Posted {
-    std::string name;
-    Value object;
+    std::variant<HIDDeviceConnected, HIDDeviceDisconnected, HIDDeviceDataReceived> notification;
     std::size_t sentBefore;
 };
 
 class HIDDeviceConnectorTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        for (const auto& name :
-             {HIDDeviceConnected, HIDDeviceDisconnected, HIDDeviceDataReceived}) {
-            center.addObserver(name, [this](const Notification& n) {
-                posted.push_back({n.name, n.object, bus.sentReports().size()});
-            });
-        }
+        const auto record = [this](const auto& n) {
+            posted.push_back({n, bus.sentReports().size()});
+        };
+        center.addObserver<HIDDeviceConnected>(record);
+        center.addObserver<HIDDeviceDisconnected>(record);
+        center.addObserver<HIDDeviceDataReceived>(record);
     }
-    std::vector<std::string> names() const {
-        std::vector<std::string> names;
+    std::vector<std::string_view> names() const {
+        std::vector<std::string_view> names;
         for (const auto& p : posted) {
-            names.push_back(p.name);
+            names.push_back(std::visit([](const auto& n) { return n.name; }, p.notification));
         }
         return names;
     }
@@ -56,8 +55,8 @@ protected:
 TEST_F(HIDDeviceConnectorTest, ConnectSendsTwoStartReportsPostsTheDeviceThenRequestsEveryTenth) {
     connector.connectDataToDevice();
     EXPECT_THAT(bus.sentReports(), ElementsAre(connectReport, connectReport));
-    ASSERT_THAT(names(), ElementsAre(HIDDeviceConnected));
-    EXPECT_EQ(posted[0].object, instrument);
+    ASSERT_THAT(names(), ElementsAre(HIDDeviceConnected::name));
+    EXPECT_EQ(std::get<HIDDeviceConnected>(posted[0].notification).device, instrument);
     EXPECT_EQ(posted[0].sentBefore, 2u);
     EXPECT_THAT(log.infoLines,
                 ElementsAre("[INFO] Send (50,100) is Data to Device", "[INFO] Connect >> "));
@@ -85,10 +84,10 @@ TEST_F(HIDDeviceConnectorTest, ConnectWithoutTheInstrumentSendsAndPostsNothingUn
     loop.advance(10s);
     EXPECT_THAT(bus.sentReports(), IsEmpty());
     connector.connectDataToDevice();
-    ASSERT_THAT(names(), ElementsAre(HIDDeviceConnected));
+    ASSERT_THAT(names(), ElementsAre(HIDDeviceConnected::name));
     // A device without a product string has no "name".
-    EXPECT_EQ(posted[0].object,
-              Value(Dictionary{{"device", Dictionary{{"ProductID", 63999}, {"VendorID", 1240}}}}));
+    EXPECT_EQ(std::get<HIDDeviceConnected>(posted[0].notification).device,
+              (MatchedHIDDevice{.productId = 63999, .vendorId = 1240}));
 }
 
 TEST_F(HIDDeviceConnectorTest, ConnectAgainSendsOneStartReportAndPostsNothing) {
@@ -101,7 +100,7 @@ TEST_F(HIDDeviceConnectorTest, ConnectAgainSendsOneStartReportAndPostsNothing) {
     // The new timer replaced the old one: still one request a tick.
     loop.advance(1s);
     EXPECT_EQ(bus.countSent(0x31, 0x00), 20u);
-    EXPECT_THAT(names(), ElementsAre(HIDDeviceConnected));
+    EXPECT_THAT(names(), ElementsAre(HIDDeviceConnected::name));
 }
 
 TEST_F(HIDDeviceConnectorTest, DisconnectBeforeAnyConnectPostsNothing) {
@@ -126,9 +125,10 @@ TEST_P(SessionEndTest, StopsTheRequestsAndPostsAnEmptyDeviceLast) {
     bus.sendInputReport({0x05, 0x06});
     loop.advance(10s);
 
-    ASSERT_THAT(names(),
-                ElementsAre(HIDDeviceConnected, HIDDeviceDataReceived, HIDDeviceDisconnected));
-    EXPECT_EQ(posted[2].object, Value(Dictionary{{"device", Dictionary{}}}));
+    ASSERT_THAT(names(), ElementsAre(HIDDeviceConnected::name, HIDDeviceDataReceived::name,
+                                     HIDDeviceDisconnected::name));
+    // The session has let go of its device: the notification names none.
+    EXPECT_EQ(std::get<HIDDeviceDisconnected>(posted[2].notification).id, "");
     EXPECT_EQ(posted[2].sentBefore, 12u);
     EXPECT_EQ(bus.sentReports().size(), 12u);
     EXPECT_EQ(bus.liveManagers(), 0u);
@@ -152,23 +152,27 @@ TEST_F(HIDDeviceConnectorTest, EveryInputReportIsPostedAsItsReadingText) {
     ASSERT_EQ(posted.size(), 5u);
     for (const auto& [i, text] :
          {std::pair{1, "1.540"}, {2, "1.540"}, {3, "1.005"}, {4, "0.999"}}) {
-        EXPECT_EQ(posted[i].object, Value(Dictionary{{"data", text}})) << i;
+        EXPECT_EQ(std::get<HIDDeviceDataReceived>(posted[i].notification).data, text) << i;
     }
 }
 
-TEST(HIDDeviceConnectorShared, PostsOnTheDefaultCentre) {
-    // The shared connector is never destroyed, so neither is what it was given.
-    static auto* const loop = new ManualRunLoop;
-    static auto* const log = new RecordingLog;
-    static auto* const bus = new FakeHidBus;
-    HIDDeviceConnector::setUpSharedInstance(bus->managerFactory(), *loop, *log);
+TEST(HIDDeviceConnectorShared, IsTheConnectorItsOwnerMadeSharedForAsLongAsThatLives) {
+    ManualRunLoop loop;
+    RecordingLog log;
+    FakeHidBus bus;
     auto& center = NotificationCenter::defaultCenter();
     int connected = 0;
-    const auto token = center.addObserver(HIDDeviceConnected, [&](auto&) { ++connected; });
-    HIDDeviceConnector::sharedInstance().connectDataToDevice();
-    HIDDeviceConnector::sharedInstance().disconnectDataToDevice();
+    const auto token =
+        center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { ++connected; });
+    for (int life = 0; life < 2; ++life) { // a second owner may share its own after the first
+        HIDDeviceConnector connector(bus.managerFactory(), loop, center, log);
+        connector.becomeSharedInstance();
+        EXPECT_EQ(&HIDDeviceConnector::sharedInstance(), &connector);
+        HIDDeviceConnector::sharedInstance().connectDataToDevice();
+        HIDDeviceConnector::sharedInstance().disconnectDataToDevice();
+    }
     center.removeObserver(token);
-    EXPECT_EQ(connected, 1);
+    EXPECT_EQ(connected, 2);
 }
 
 } // namespace

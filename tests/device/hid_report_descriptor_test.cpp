@@ -1,5 +1,5 @@
+#include "device/hid_device.h"
 #include "device/hid_report_descriptor.h"
-#include "foundation/value.h"
 
 #include <gtest/gtest.h>
 

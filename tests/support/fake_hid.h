@@ -6,11 +6,11 @@
 // the HID layer delivers them on the run loop.
 
 #include "device/hid_device_connector.h"
-#include "foundation/value.h"
 
 #include <algorithm>
 #include <cassert>
 #include <cstdint>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -35,6 +35,9 @@ public:
     // What the next copyDevices() finds.
     bool instrumentAttached = true;
     std::optional<std::string> productName = "Velmora Refractometer";
+    // The instrument's side: called with every report the host sends, from a task that the send
+    // queues on the manager's run loop, so it may answer, or be unplugged, as a device would.
+    std::function<void(const SentReport& report)> answer;
 
     // Each manager it makes sees this bus; the bus must outlive them.
     HIDDeviceConnector::ManagerFactory managerFactory() {
@@ -88,6 +91,9 @@ private:
         std::optional<std::string> productProperty() const override { return bus.productName; }
         void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
             bus.sent_.push_back({reportId, Bytes(report.begin(), report.end())});
+            if (bus.answer && bus.runLoop_) {
+                bus.runLoop_->post([&bus = bus, sent = bus.sent_.back()] { bus.answer(sent); });
+            }
         }
 
         FakeHidBus& bus;
@@ -106,8 +112,9 @@ private:
             }
         }
 
-        void scheduleWithRunLoop(RunLoop&) override {
+        void scheduleWithRunLoop(RunLoop& runLoop) override {
             bus.calls_.emplace_back("schedule");
+            bus.runLoop_ = &runLoop;
             scheduled = true;
         }
         void unscheduleFromRunLoop() override {
@@ -154,6 +161,7 @@ private:
     std::vector<std::string> calls_;
     Manager* newest_ = nullptr;
     std::size_t live_ = 0;
+    RunLoop* runLoop_ = nullptr; // the last one a manager was scheduled on
 };
 
 } // namespace velmora::test

@@ -4,8 +4,8 @@
 // queued results one by one, waiting up to its timeout for the next, as a device does; writes and
 // the close are recorded, along with anything done out of turn.
 
+#include "device/hid_device.h"
 #include "device/hidapi/hid_handle.h"
-#include "foundation/value.h"
 
 #include <algorithm>
 #include <condition_variable>

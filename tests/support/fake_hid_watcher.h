@@ -7,7 +7,6 @@
 // A test that calls stop() first has the whole script played on its own thread.
 
 #include "device/hid_watcher.h"
-#include "foundation/value.h"
 
 #include <algorithm>
 #include <atomic>
@@ -30,7 +29,7 @@ struct FakeHidDeviceDescription {
     std::optional<std::string> product = "Velmora Refractometer";
     std::optional<std::int64_t> maxInputReportSize = 8;
     // Its "LocationID"; none gives the path, as the real watcher does.
-    Value locationId{};
+    HidProperty locationId{};
 };
 
 class FakeHidWatcher final : public HidWatcher {
@@ -106,13 +105,14 @@ private:
             sent.push_back(Bytes{reportId});
             sent.back().insert(sent.back().end(), report.begin(), report.end());
         }
-        Value property(const std::string& key) const override {
+        HidProperty property(const std::string& key) const override {
             const auto& d = description;
             if (key == "LocationID") {
-                return d.locationId.isNone() ? Value(d.path) : d.locationId;
+                const bool none = std::holds_alternative<std::monostate>(d.locationId);
+                return none ? HidProperty(d.path) : d.locationId;
             }
             if (key == "VendorID" || key == "ProductID") {
-                return int{key == "VendorID" ? d.vendorId : d.productId};
+                return std::int64_t{key == "VendorID" ? d.vendorId : d.productId};
             }
             if (key == "Product" && d.product) {
                 return *d.product;

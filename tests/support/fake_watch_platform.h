@@ -4,6 +4,7 @@
 // lives, and ends the watch once the fakes' script has played.
 
 #include "app/cli/watch_platform.h"
+#include "tests/support/fake_hid.h"
 #include "tests/support/fake_hid_watcher.h"
 #include "tests/support/fake_serial_port_source.h"
 
@@ -54,7 +55,14 @@ public:
         };
     }
 
-    // Ctrl-C and SIGTERM end the watch, as they do outside the tests.
+    // `read` finds the instrument on this bus.
+    void instrument(FakeHidBus& bus) {
+        cli::watchPlatform().instrument = [&bus](Log&, std::function<void()>) {
+            return bus.managerFactory();
+        };
+    }
+
+    // Ctrl-C and SIGTERM end the command, as they do outside the tests.
     void keepRealInterrupts() { cli::watchPlatform().endOn = saved_.endOn; }
 
 private:

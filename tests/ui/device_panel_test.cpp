@@ -1,3 +1,4 @@
+#include "device/hid_device_monitor.h"
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "tests/support/fake_hid.h"
@@ -12,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const Dictionary instrument{{"ProductID", 63999}, {"VendorID", 1240}, {"name", "Velmora"}};
+const MatchedHIDDevice instrument{.productId = 63999, .vendorId = 1240, .name = "Velmora"};
 
 void expectDisconnected(const MainWindow& w, const std::string& placeholder) {
     EXPECT_EQ(w.view_deviceStatus.backgroundColor(), systemColors::red);
@@ -28,7 +29,7 @@ TEST(DevicePanel, FollowsTheSessionFlagAtOnceAndThePanelAfterTheEvent) {
     MainWindow& w = h.window;
     expectDisconnected(w, "1.000");
     w.usb_device_reading.setText("1.540");
-    h.notificationCenter.post("HIDDeviceConnected", Dictionary{{"device", instrument}});
+    h.notificationCenter.post(HIDDeviceConnected{instrument});
     EXPECT_TRUE(h.state().isUSBStatus);
     EXPECT_EQ(w.lbl_deviceStatus.text(), "Disconnected");
     h.runQueued();
@@ -38,32 +39,36 @@ TEST(DevicePanel, FollowsTheSessionFlagAtOnceAndThePanelAfterTheEvent) {
     EXPECT_FALSE(w.btn_connected.isEnabled());
     EXPECT_TRUE(w.btn_disconnected.isEnabled());
 
-    h.notificationCenter.post("HIDDeviceDisconnected", Dictionary{{"device", Dictionary{}}});
+    h.notificationCenter.post(HIDDeviceDisconnected{});
     EXPECT_FALSE(h.state().isUSBStatus);
     h.runQueued();
     expectDisconnected(w, "1.000");
 }
 
-TEST(DevicePanel, AConnectedWithoutADeviceDictionaryChangesNothing) {
+// The HID monitor posts under the session's names with payloads of its own: a device record and
+// raw bytes, which the panel does not take for the session's; its removal it does.
+TEST(DevicePanel, TheMonitorsConnectedChangesNothingButItsRemovalDisconnects) {
     WindowHarness h;
-    for (const Value& object : {Value(), Value("device"), Value(Dictionary{{"device", "x"}}),
-                                Value(Dictionary{{"other", instrument}})}) {
-        h.notificationCenter.post("HIDDeviceConnected", object);
-        h.runQueued();
-        EXPECT_FALSE(h.state().isUSBStatus) << object.describe();
-        EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Disconnected");
-    }
+    h.notificationCenter.post(HIDMonitorDeviceConnected{{.id = "/dev/hidraw0", .vendorId = 1240}});
+    h.runQueued();
+    EXPECT_FALSE(h.state().isUSBStatus);
+    EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Disconnected");
+
+    h.notificationCenter.post(HIDDeviceConnected{instrument});
+    h.notificationCenter.post(HIDDeviceDisconnected{"/dev/hidraw0"});
+    EXPECT_FALSE(h.state().isUSBStatus);
+    h.runQueued();
+    expectDisconnected(h.window, "1.000");
 }
 
 TEST(DevicePanel, ReadingsShowInTheUsersNotationWhateverTheState) {
     WindowHarness h({.decimalSeparator = ","});
-    h.notificationCenter.post("HIDDeviceDataReceived", Dictionary{{"data", "1.540"}});
+    h.notificationCenter.post(HIDDeviceDataReceived{"1.540"});
     EXPECT_EQ(h.window.usb_device_reading.text(), "1,540"); // at once, though disconnected
-    h.notificationCenter.post("HIDDeviceDataReceived", Dictionary{{"data", "not a number"}});
+    h.notificationCenter.post(HIDDeviceDataReceived{"not a number"});
     EXPECT_EQ(h.window.usb_device_reading.text(), "");
-    h.notificationCenter.post("HIDDeviceDataReceived", Dictionary{{"data", 1540}});
-    h.notificationCenter.post("HIDDeviceDataReceived", Value("1.540"));
-    EXPECT_EQ(h.window.usb_device_reading.text(), ""); // not a text in a dictionary: ignored
+    h.notificationCenter.post(HIDMonitorDataReceived{{0x04, 0x06}});
+    EXPECT_EQ(h.window.usb_device_reading.text(), ""); // the monitor's raw bytes: ignored
 }
 
 TEST(DevicePanel, ConnectAndDisconnectResetTheFormOnlyInTheReadingTab) {

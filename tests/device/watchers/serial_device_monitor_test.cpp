@@ -19,12 +19,11 @@ TEST(SerialDeviceMonitor, ListsPortsWithAPathKeepsAChangedOneInPlaceAndAnEmptyFi
         {{}, {ftdi, usbSerialPort("", 0x1111, 0x2222)}, {renamed, instrument}});
     NotificationCenter center;
     Lines posted;
-    for (const auto* name : {SerialDeviceAdded, SerialDeviceRemoved}) {
-        center.addObserver(name, [&](const Notification& n) {
-            const auto* device = n.object["device"]->asRecord();
-            posted.push_back(n.name + " " + std::any_cast<SerialDevice>(*device).path);
-        });
-    }
+    const auto record = [&](const auto& n) {
+        posted.push_back(std::string(n.name) + " " + n.device.path);
+    };
+    center.addObserver<SerialDeviceAdded>(record);
+    center.addObserver<SerialDeviceRemoved>(record);
     SerialDeviceMonitor monitor{source, center};
     monitor.poll();
     EXPECT_TRUE(posted.empty());

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <sstream>
+#include <variant>
 
 namespace velmora {
 namespace {
@@ -61,16 +62,22 @@ UsbServices services(const std::vector<Step>& steps) {
     return out;
 }
 
+using Posted = std::variant<USBDeviceConnected, USBDeviceDisconnected, DFUDeviceConnected,
+                            DFUDeviceDisconnected>;
+
 struct Watching {
     NoWatcher watcher;
     std::ostringstream out;
     NotificationCenter center;
-    std::vector<Notification> posted;
+    std::vector<Posted> posted;
     Watching() {
-        for (const char* name : {USBDeviceConnected, USBDeviceDisconnected, "DFUDeviceConnected",
-                                 "DFUDeviceDisconnected"}) {
-            center.addObserver(name, [this](const Notification& n) { posted.push_back(n); });
-        }
+        observe<USBDeviceConnected>();
+        observe<USBDeviceDisconnected>();
+        observe<DFUDeviceConnected>();
+        observe<DFUDeviceDisconnected>();
+    }
+    template <class N> void observe() {
+        center.addObserver<N>([this](const N& n) { posted.emplace_back(n); });
     }
 };
 
@@ -87,11 +94,11 @@ TEST(USBDeviceMonitor, AnnouncesOpenedAndBusyDevicesAndTellsEachFailure) {
               "Error getting device id\nError getting device name\n"
               "Unable to get Plug-In Interface\nCould not open device (error: -3)\n");
     ASSERT_EQ(run.posted.size(), 2u);
-    const auto first = std::any_cast<USBDevice>(*run.posted[0].object["device"]->asRecord());
+    const auto first = std::get<USBDeviceConnected>(run.posted[0]).device;
     EXPECT_EQ(first.id, 0x0103000000000000u);
     EXPECT_EQ(first.name, "Velmora");
     EXPECT_EQ(first.vendorId, 0x04D8);
-    const auto busy = std::any_cast<USBDevice>(*run.posted[1].object["device"]->asRecord());
+    const auto busy = std::get<USBDeviceConnected>(run.posted[1]).device;
     EXPECT_EQ(busy.id, 0u);
     EXPECT_EQ(busy.name, "");
 
@@ -100,9 +107,8 @@ TEST(USBDeviceMonitor, AnnouncesOpenedAndBusyDevicesAndTellsEachFailure) {
     monitor.devicesRemoved(removed);
     EXPECT_EQ(run.out.str(), "Couldn\u2019t release raw device object (error: 5)\n");
     ASSERT_EQ(run.posted.size(), 3u);
-    EXPECT_EQ(run.posted[2].name, USBDeviceDisconnected);
-    EXPECT_EQ(std::any_cast<std::uint64_t>(*run.posted[2].object["id"]->asRecord()),
-              0x0103000000000000u);
+    ASSERT_TRUE(std::holds_alternative<USBDeviceDisconnected>(run.posted[2]));
+    EXPECT_EQ(std::get<USBDeviceDisconnected>(run.posted[2]).id, 0x0103000000000000u);
 }
 
 TEST(DFUDevice, ABusyInstrumentIsAnErrorAndAnOpenedOneIsAnnounced) {
@@ -113,11 +119,11 @@ TEST(DFUDevice, ABusyInstrumentIsAnErrorAndAnOpenedOneIsAnnounced) {
     EXPECT_EQ(run.out.str(), "usb Device Name: Velmora\nCould not open device (error: -536870203)\n"
                              "usb Device Name: Velmora\nDFU device has been device connected\n");
     ASSERT_EQ(run.posted.size(), 1u);
-    EXPECT_TRUE(run.posted[0].object.isNone());
+    EXPECT_TRUE(std::holds_alternative<DFUDeviceConnected>(run.posted[0]));
 
     auto removed = services({{}});
     dfu.devicesRemoved(removed);
-    EXPECT_EQ(run.posted.back().name, "DFUDeviceDisconnected");
+    EXPECT_TRUE(std::holds_alternative<DFUDeviceDisconnected>(run.posted.back()));
 }
 
 } // namespace
