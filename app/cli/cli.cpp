@@ -39,6 +39,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addIdentifyCommand(app, context);
     addShowCommand(app, context);
     addReadCommand(app, context);
+    addRankCommand(app, context);
 
     try {
         app.parse(argc, argv);
