@@ -189,14 +189,14 @@ struct Prepared {
 
 // The order of stones, and of candidates by their leads and sizes.
 bool better(const RankedStone& a, const std::string& aName, std::size_t aSize, const RankedStone& b,
-            const std::string& bName, std::size_t bSize, bool demote) {
-    const bool aDemoted = demote && a.contradictsOptics;
-    const bool bDemoted = demote && b.contradictsOptics;
-    if (aDemoted != bDemoted) {
-        return bDemoted;
-    }
+            const std::string& bName, std::size_t bSize) {
     if (a.fit != b.fit) {
         return a.fit > b.fit;
+    }
+    // A stone within every tolerance shows 100 %, so this keeps a stone of the wrong optic
+    // character from the top whenever anything else fits.
+    if (a.contradictsOptics != b.contradictsOptics) {
+        return b.contradictsOptics;
     }
     // Far from everything the fit shows 0 %, and only the distance still orders.
     if (a.fit == 0 && a.penalty != b.penalty) {
@@ -227,11 +227,8 @@ Ranking rankStones(const StoneList& table, const RankingInputs& inputs,
     Ranking ranking;
     ranking.anyWithinTolerance =
         std::any_of(rated.begin(), rated.end(), [](const auto& r) { return r.withinTolerance; });
-    const bool demote = std::any_of(rated.begin(), rated.end(), [](const auto& r) {
-        return r.withinTolerance && !r.contradictsOptics;
-    });
-    std::sort(rated.begin(), rated.end(), [demote](const auto& a, const auto& b) {
-        return better(a, a.stone->StoneName, 1, b, b.stone->StoneName, 1, demote);
+    std::sort(rated.begin(), rated.end(), [](const auto& a, const auto& b) {
+        return better(a, a.stone->StoneName, 1, b, b.stone->StoneName, 1);
     });
 
     // Equal fits of one species, in the order found, which is best first within the species.
@@ -243,7 +240,7 @@ Ranking rankStones(const StoneList& table, const RankingInputs& inputs,
             ranking.candidates.push_back({r.stone->StoneName, {r}});
             continue;
         }
-        const auto key = std::make_tuple(species, r.fit, demote && r.contradictsOptics);
+        const auto key = std::make_tuple(species, r.fit, r.contradictsOptics);
         const auto [at, added] = groupOf.try_emplace(key, ranking.candidates.size());
         if (added) {
             ranking.candidates.push_back({r.stone->StoneName, {r}});
@@ -254,9 +251,9 @@ Ranking rankStones(const StoneList& table, const RankingInputs& inputs,
         }
     }
     std::stable_sort(ranking.candidates.begin(), ranking.candidates.end(),
-                     [demote](const Candidate& a, const Candidate& b) {
+                     [](const Candidate& a, const Candidate& b) {
                          return better(a.lead(), a.name, a.members.size(), b.lead(), b.name,
-                                       b.members.size(), demote);
+                                       b.members.size());
                      });
     return ranking;
 }

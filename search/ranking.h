@@ -28,10 +28,11 @@
 // ranges first, since a reading inside quartz's 0.009 says more than one inside a shell's 0.155;
 // then the species with more varieties fitting, a likelier identity than a lone row; then by name.
 // Stones of one species (StoneFamily) that fit equally form one candidate named after the species
-// (not at 0 %: stones far from everything do not fit equally). When a
-// low and a high reading are given and any stone fits within every tolerance, stones whose optic
-// character the spread contradicts (singly refractive under a spread beyond the tolerance,
-// strongly doubly refractive under one within it) come after all others.
+// (not at 0 %: stones far from everything do not fit equally). With a low and a high reading,
+// a stone whose optic character the spread contradicts (singly refractive under a spread beyond
+// the tolerance, strongly doubly refractive under one within it) comes after the others of the
+// same fit: since whatever fits within every tolerance shows 100 %, such a stone comes first
+// only when nothing else fits.
 
 #include "data/stone_list.h"
 #include "search/measured.h"
