@@ -34,17 +34,18 @@ std::string foldedName(std::string_view name) {
     return text::normalized(out);
 }
 
+bool asciiNameContains(std::string_view haystack, std::string_view foldedNeedle) {
+    const auto lower = [](char c) {
+        return (c >= 'A' && c <= 'Z') ? char(c + 32) : c;
+    };
+    return std::search(haystack.begin(), haystack.end(), foldedNeedle.begin(), foldedNeedle.end(),
+                       [&](char a, char b) { return lower(a) == b; }) != haystack.end();
+}
+
 bool nameContains(std::string_view haystack, std::string_view foldedNeedle) {
-    if (text::isAscii(haystack)) {
-        // The common case, without building a folded copy of every name.
-        const auto lower = [](char c) {
-            return (c >= 'A' && c <= 'Z') ? char(c + 32) : c;
-        };
-        return std::search(haystack.begin(), haystack.end(), foldedNeedle.begin(),
-                           foldedNeedle.end(),
-                           [&](char a, char b) { return lower(a) == b; }) != haystack.end();
-    }
-    return foldedName(haystack).find(foldedNeedle) != std::string::npos;
+    // The common case without building a folded copy of the name.
+    return text::isAscii(haystack) ? asciiNameContains(haystack, foldedNeedle)
+                                   : foldedName(haystack).find(foldedNeedle) != std::string::npos;
 }
 
 } // namespace velmora

@@ -2,42 +2,30 @@
 
 #include "foundation/c_number.h"
 
-#include <array>
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 namespace velmora {
 
 RangeCell readRangeCell(std::string_view field) {
-    // Short pieces stay in the strings' own storage: no allocation for a usual cell.
-    std::array<std::string, 2> pieces;
-    std::size_t count = 0;
-    std::string current;
-    const auto endPiece = [&] {
-        if (!current.empty()) {
-            pieces[count++] = std::move(current);
-            current.clear();
-        }
-    };
-    for (const char c : field) {
-        if (c == '-') {
-            endPiece();
-            if (count == pieces.size()) {
-                break;
-            }
-        } else if (c != ' ') {
-            current += c;
-        }
-    }
-    if (count < pieces.size()) {
-        endPiece();
-    }
     RangeCell cell;
-    cell.pieces = count;
-    if (count > 0) {
-        cell.low = parseCNumber(pieces[0]);
-    }
-    if (count > 1) {
-        cell.high = parseCNumber(pieces[1]);
+    std::size_t start = 0;
+    while (cell.pieces < 2 && start <= field.size()) {
+        const auto end = std::min(field.find('-', start), field.size());
+        std::string_view piece = field.substr(start, end - start);
+        start = end + 1;
+        // Spaces are dropped even inside a number; a piece of spaces alone is no piece.
+        std::string spaceless;
+        if (piece.find(' ') != std::string_view::npos) {
+            std::copy_if(piece.begin(), piece.end(), std::back_inserter(spaceless),
+                         [](char c) { return c != ' '; });
+            piece = spaceless;
+        }
+        if (piece.empty()) {
+            continue;
+        }
+        (cell.pieces++ == 0 ? cell.low : cell.high) = parseCNumber(piece);
     }
     return cell;
 }

@@ -6,8 +6,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <tuple>
+#include <cstdint>
+#include <numeric>
+#include <unordered_map>
 
 namespace velmora {
 namespace {
@@ -21,14 +22,6 @@ std::size_t indexOf(Property p) {
     return static_cast<std::size_t>(p);
 }
 
-// "none" marks a singly refractive stone; "not measurable ..." an aggregate, which tells nothing.
-std::optional<ValueSpan> birefringenceOf(const std::string& cell) {
-    if (cell == "none") {
-        return ValueSpan{0, 0};
-    }
-    return spanOf(cell);
-}
-
 Deviation deviationFrom(double value, ValueSpan span, double tolerance) {
     double off = value < span.low ? value - span.low : value > span.high ? value - span.high : 0.0;
     // 1.644 - 1.624 is not quite 0.020 in binary; a difference no instrument shows is none.
@@ -38,30 +31,9 @@ Deviation deviationFrom(double value, ValueSpan span, double tolerance) {
     return {off, std::abs(off) / tolerance};
 }
 
-bool asciiEqualsIgnoringCase(const std::string& a, const std::string& lowerB) {
-    return a.size() == lowerB.size() &&
-           std::equal(a.begin(), a.end(), lowerB.begin(), [](char x, char y) {
-               return ((x >= 'A' && x <= 'Z') ? char(x + 32) : x) == y;
-           });
-}
-
-// Nothing when the row names no colour at all: it tells nothing about colour.
-std::optional<bool> hasColor(const Stones& stone, const std::string& lowerColor) {
-    bool anyNamed = false;
-    for (const std::string* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
-                                    &stone.Color5, &stone.Color6}) {
-        if (cell->empty()) {
-            continue;
-        }
-        anyNamed = true;
-        const bool equal = text::isAscii(*cell) && text::isAscii(lowerColor)
-                               ? asciiEqualsIgnoringCase(*cell, lowerColor)
-                               : text::equals(text::lowercased(*cell), lowerColor);
-        if (equal) {
-            return true;
-        }
-    }
-    return anyNamed ? std::optional<bool>(false) : std::nullopt;
+bool nameHolds(const RankingRow& row, const std::string& foldedNeedle) {
+    return row.foldedName.empty() ? asciiNameContains(row.stone->StoneName, foldedNeedle)
+                                  : row.foldedName.find(foldedNeedle) != std::string::npos;
 }
 
 // The inputs with their tolerances settled once for the whole table.
@@ -73,7 +45,7 @@ struct Prepared {
     double hardnessTolerance;
     double birefringenceTolerance;
     std::optional<double> spread;
-    std::optional<std::string> lowerColor;
+    std::optional<std::uint16_t> color;
     std::optional<std::string> foldedName;
 
     Prepared(const RankingInputs& inputs, const RankingSettings& s)
@@ -88,7 +60,7 @@ struct Prepared {
             spread = inputs.riHigh->value - inputs.ri->value;
         }
         if (inputs.color) {
-            lowerColor = text::lowercased(*inputs.color);
+            color = colorBit(*inputs.color);
         }
         if (inputs.name) {
             foldedName = velmora::foldedName(*inputs.name);
@@ -97,11 +69,11 @@ struct Prepared {
 
     static double precision(const std::optional<Measured>& m) { return m ? m->precision : 0.0; }
 
-    void rateRi(const Stones& stone, RankedStone& r) const {
+    void rateRi(const RankingRow& row, RankedStone& r) const {
         if (!in.overTheLimit && !in.ri) {
             return;
         }
-        const auto span = spanOf(stone.Ri);
+        const auto& span = row.ri;
         if (!span) {
             return;
         }
@@ -121,11 +93,11 @@ struct Prepared {
         r.breadth += weights[indexOf(Property::RI)] * (span->high - span->low) / riTolerance;
     }
 
-    void rateBirefringence(const Stones& stone, RankedStone& r) const {
+    void rateBirefringence(const RankingRow& row, RankedStone& r) const {
         if (!spread) {
             return;
         }
-        const auto span = birefringenceOf(stone.Birefringence);
+        const auto& span = row.birefringence;
         if (!span) {
             return;
         }
@@ -142,12 +114,11 @@ struct Prepared {
             (singly && spreadSeen) || (span->low >= strongBirefringence && !spreadSeen);
     }
 
-    void rateRange(const std::optional<Measured>& m, const std::string& cell, Property p,
-                   double tolerance, RankedStone& r) const {
+    void rateRange(const std::optional<Measured>& m, const std::optional<ValueSpan>& span,
+                   Property p, double tolerance, RankedStone& r) const {
         if (!m) {
             return;
         }
-        const auto span = spanOf(cell);
         if (!span) {
             return;
         }
@@ -155,24 +126,24 @@ struct Prepared {
         r.breadth += weights[indexOf(p)] * (span->high - span->low) / tolerance;
     }
 
-    void rateColor(const Stones& stone, RankedStone& r) const {
-        if (!lowerColor) {
+    void rateColor(const RankingRow& row, RankedStone& r) const {
+        // A row that names no colour tells nothing about colour.
+        if (!color || !row.namesColor) {
             return;
         }
-        if (const auto has = hasColor(stone, *lowerColor)) {
-            // A colour not among the stone's counts as one tolerance beyond.
-            r.deviations[indexOf(Property::Color)] = *has ? Deviation{0, 0} : Deviation{1, 2};
-        }
+        // A colour not among the stone's counts as one tolerance beyond.
+        r.deviations[indexOf(Property::Color)] =
+            (row.colors & *color) != 0 ? Deviation{0, 0} : Deviation{1, 2};
     }
 
-    RankedStone rate(const Stones& stone) const {
+    RankedStone rate(const RankingRow& row) const {
         RankedStone r;
-        r.stone = &stone;
-        rateRi(stone, r);
-        rateBirefringence(stone, r);
-        rateRange(in.sg, stone.SgRange, Property::SG, sgTolerance, r);
-        rateRange(in.hardness, stone.Hardness, Property::Hardness, hardnessTolerance, r);
-        rateColor(stone, r);
+        r.stone = row.stone;
+        rateRi(row, r);
+        rateBirefringence(row, r);
+        rateRange(in.sg, row.sg, Property::SG, sgTolerance, r);
+        rateRange(in.hardness, row.hardness, Property::Hardness, hardnessTolerance, r);
+        rateColor(row, r);
         double exponent = 0;
         for (std::size_t p = 0; p < propertyCount; ++p) {
             if (const auto& d = r.deviations[p]) {
@@ -187,73 +158,155 @@ struct Prepared {
     }
 };
 
-// The order of stones, and of candidates by their leads and sizes.
-bool better(const RankedStone& a, const std::string& aName, std::size_t aSize, const RankedStone& b,
-            const std::string& bName, std::size_t bSize) {
+struct GroupKey {
+    std::string_view species;
+    int fit;
+    bool contradictsOptics;
+    bool operator==(const GroupKey&) const = default;
+};
+
+struct GroupKeyHash {
+    std::size_t operator()(const GroupKey& k) const {
+        return std::hash<std::string_view>()(k.species) ^ (static_cast<std::size_t>(k.fit) << 1) ^
+               static_cast<std::size_t>(k.contradictsOptics);
+    }
+};
+
+// The order of stones, and of candidates by their leads: negative when a comes first, zero when
+// only the size of their candidates and their names can tell.
+template <class Rated> int compareFits(const Rated& a, const Rated& b) {
     if (a.fit != b.fit) {
-        return a.fit > b.fit;
+        return a.fit > b.fit ? -1 : 1;
     }
     // A stone within every tolerance shows 100 %, so this keeps a stone of the wrong optic
     // character from the top whenever anything else fits.
     if (a.contradictsOptics != b.contradictsOptics) {
-        return b.contradictsOptics;
+        return a.contradictsOptics ? 1 : -1;
     }
     // Far from everything the fit shows 0 %, and only the distance still orders.
     if (a.fit == 0 && a.penalty != b.penalty) {
-        return a.penalty < b.penalty;
+        return a.penalty < b.penalty ? -1 : 1;
     }
     if (a.breadth != b.breadth) {
-        return a.breadth < b.breadth;
+        return a.breadth < b.breadth ? -1 : 1;
     }
-    if (aSize != bSize) {
-        return aSize > bSize;
-    }
-    return text::compare(aName, bName) < 0;
+    return 0;
 }
 
 } // namespace
 
-Ranking rankStones(const StoneList& table, const RankingInputs& inputs,
+Ranking rankStones(const StoneList& stones, const RankingInputs& inputs,
+                   const RankingSettings& settings) {
+    return rankStones(RankingTable(stones), inputs, settings);
+}
+
+Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
                    const RankingSettings& settings) {
     const Prepared prepared(inputs, settings);
     std::vector<RankedStone> rated;
-    rated.reserve(table.size());
-    for (const Stones& stone : table) {
-        if (prepared.foldedName && !nameContains(stone.StoneName, *prepared.foldedName)) {
+    rated.reserve(table.rows().size());
+    for (const RankingRow& row : table.rows()) {
+        if (prepared.foldedName && !nameHolds(row, *prepared.foldedName)) {
             continue;
         }
-        rated.push_back(prepared.rate(stone));
+        rated.push_back(prepared.rate(row));
     }
     Ranking ranking;
     ranking.anyWithinTolerance =
         std::any_of(rated.begin(), rated.end(), [](const auto& r) { return r.withinTolerance; });
-    std::sort(rated.begin(), rated.end(), [](const auto& a, const auto& b) {
-        return better(a, a.stone->StoneName, 1, b, b.stone->StoneName, 1);
+    // Small keys are sorted, not the stones: a rated stone is large, and its name far away.
+    struct Key {
+        int fit;
+        bool contradictsOptics;
+        double penalty;
+        double breadth;
+        std::uint32_t index;
+    };
+    std::vector<Key> keys(rated.size());
+    for (std::uint32_t i = 0; i < rated.size(); ++i) {
+        const RankedStone& r = rated[i];
+        keys[i] = {r.fit, r.contradictsOptics, r.penalty, r.breadth, i};
+    }
+    std::sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
+        const int byFit = compareFits(a, b);
+        return byFit != 0 ? byFit < 0
+                          : text::compare(rated[a.index].stone->StoneName,
+                                          rated[b.index].stone->StoneName) < 0;
     });
+    std::vector<std::uint32_t> order(keys.size());
+    std::transform(keys.begin(), keys.end(), order.begin(), [](const Key& k) { return k.index; });
 
-    // Equal fits of one species, in the order found, which is best first within the species.
-    std::map<std::tuple<std::string, int, bool>, std::size_t> groupOf;
-    for (RankedStone& r : rated) {
-        const std::string& species = r.stone->StoneFamily;
+    // Equal fits of one species, in sorted order, so best first within the species.
+    struct Group {
+        std::string_view name;
+        std::size_t first = 0;
+        std::size_t size = 0;
+    };
+    std::vector<Group> groups;
+    std::vector<std::uint32_t> groupOfRank(order.size());
+    std::unordered_map<GroupKey, std::uint32_t, GroupKeyHash> groupOf;
+    for (std::size_t rank = 0; rank < order.size(); ++rank) {
+        const RankedStone& r = rated[order[rank]];
+        const auto next = static_cast<std::uint32_t>(groups.size());
         // Stones that fit nowhere near do not fit equally, whatever their rounded fit.
-        if (species.empty() || r.fit == 0) {
-            ranking.candidates.push_back({r.stone->StoneName, {r}});
+        const bool alone = r.fit == 0 || r.stone->StoneFamily.empty();
+        const auto [at, added] =
+            alone ? std::make_pair(groupOf.end(), true)
+                  : groupOf.try_emplace(GroupKey{r.stone->StoneFamily, r.fit, r.contradictsOptics},
+                                        next);
+        const std::uint32_t g = added ? next : at->second;
+        if (added) {
+            groups.push_back({r.stone->StoneName});
+        } else {
+            groups[g].name = r.stone->StoneFamily;
+        }
+        ++groups[g].size;
+        groupOfRank[rank] = g;
+    }
+    std::size_t first = 0;
+    for (Group& g : groups) {
+        g.first = first;
+        first += g.size;
+    }
+    // Each candidate's members side by side, moved into place within the rated stones: where
+    // each position takes its stone from, then the permutation's cycles followed.
+    std::vector<std::uint32_t> from(rated.size());
+    std::vector<std::size_t> placed(groups.size(), 0);
+    for (std::size_t rank = 0; rank < order.size(); ++rank) {
+        const std::uint32_t g = groupOfRank[rank];
+        from[groups[g].first + placed[g]++] = order[rank];
+    }
+    for (std::size_t start = 0; start < from.size(); ++start) {
+        if (from[start] == start) {
             continue;
         }
-        const auto key = std::make_tuple(species, r.fit, r.contradictsOptics);
-        const auto [at, added] = groupOf.try_emplace(key, ranking.candidates.size());
-        if (added) {
-            ranking.candidates.push_back({r.stone->StoneName, {r}});
-        } else {
-            Candidate& group = ranking.candidates[at->second];
-            group.members.push_back(r);
-            group.name = species;
+        RankedStone held = rated[start];
+        std::size_t at = start;
+        while (from[at] != start) {
+            const std::uint32_t next = from[at];
+            rated[at] = rated[next];
+            from[at] = static_cast<std::uint32_t>(at);
+            at = next;
         }
+        rated[at] = held;
+        from[at] = static_cast<std::uint32_t>(at);
+    }
+    ranking.stones_ = std::move(rated);
+    ranking.candidates.reserve(groups.size());
+    for (const Group& g : groups) {
+        ranking.candidates.push_back(
+            {g.name, std::span<const RankedStone>(ranking.stones_).subspan(g.first, g.size)});
     }
     std::stable_sort(ranking.candidates.begin(), ranking.candidates.end(),
                      [](const Candidate& a, const Candidate& b) {
-                         return better(a.lead(), a.name, a.members.size(), b.lead(), b.name,
-                                       b.members.size());
+                         const int byFit = compareFits(a.lead(), b.lead());
+                         if (byFit != 0) {
+                             return byFit < 0;
+                         }
+                         if (a.members.size() != b.members.size()) {
+                             return a.members.size() > b.members.size();
+                         }
+                         return text::compare(a.name, b.name) < 0;
                      });
     return ranking;
 }

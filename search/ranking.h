@@ -36,23 +36,28 @@
 
 #include "data/stone_list.h"
 #include "search/measured.h"
+#include "search/ranking_table.h"
 #include "search/tolerances.h"
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velmora {
 
 struct RankingInputs {
-    std::optional<Measured> ri;     // the one reading, or the low one of two
-    std::optional<Measured> riHigh; // the high reading; needs ri
-    bool overTheLimit = false;      // no shadow edge: the R.I. lies above the instrument's limit
-    std::optional<Measured> sg;
-    std::optional<Measured> hardness;
-    std::optional<std::string> color; // a catalogue colour, any case, against Color1 to Color6
-    std::optional<std::string> name;  // part of StoneName, without case and accents; a filter
+    std::optional<Measured> ri = std::nullopt;     // the one reading, or the low one of two
+    std::optional<Measured> riHigh = std::nullopt; // the high reading; needs ri
+    bool overTheLimit = false; // no shadow edge: the R.I. lies above the instrument's limit
+    std::optional<Measured> sg = std::nullopt;
+    std::optional<Measured> hardness = std::nullopt;
+    std::optional<std::string> color =
+        std::nullopt; // a catalogue colour in any case, against Color1 to Color6
+    std::optional<std::string> name =
+        std::nullopt; // part of StoneName, without case and accents; a filter
 };
 
 enum class Property { RI, Birefringence, SG, Hardness, Color };
@@ -80,17 +85,31 @@ struct RankedStone {
 
 // One line of the result: a stone, or the equally fitting varieties of one species.
 struct Candidate {
-    std::string name;                 // the stone's name, or the species'
-    std::vector<RankedStone> members; // best first; the first stands for the candidate
+    std::string_view name;                // the stone's name, or the species'
+    std::span<const RankedStone> members; // best first; the first stands for the candidate
     const RankedStone& lead() const { return members.front(); }
 };
 
+// The candidates view the ranked stones it holds: it moves, but is not copied.
 struct Ranking {
+    Ranking() = default;
+    Ranking(Ranking&&) = default;
+    Ranking& operator=(Ranking&&) = default;
+
     std::vector<Candidate> candidates; // best first
     bool anyWithinTolerance = false;   // else the candidates are near matches
+
+private:
+    friend Ranking rankStones(const RankingTable&, const RankingInputs&, const RankingSettings&);
+    std::vector<RankedStone> stones_; // each candidate's members side by side
 };
 
-Ranking rankStones(const StoneList& table, const RankingInputs& inputs,
+// The candidates view the stones of the table, which must outlive the ranking.
+Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
+                   const RankingSettings& settings = {});
+
+// The same over a table read for this one ranking; the candidates view the list's stones.
+Ranking rankStones(const StoneList& stones, const RankingInputs& inputs,
                    const RankingSettings& settings = {});
 
 } // namespace velmora

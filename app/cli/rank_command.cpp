@@ -125,7 +125,7 @@ void print(const Context& context, const Ranking& ranking, const RankingInputs& 
         const Candidate& c = ranking.candidates[i];
         const RankedStone& lead = c.lead();
         const std::string number = stoneNumberText(lead.stone->StoneID, static_cast<int>(i));
-        std::string name = c.name;
+        std::string name(c.name);
         if (c.members.size() > 1) {
             std::string varieties;
             for (const auto& m : c.members) {

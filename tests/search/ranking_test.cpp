@@ -39,7 +39,7 @@ StoneList table(const std::vector<Row>& rows) {
 std::string order(const Ranking& ranking) {
     std::string out;
     for (const auto& c : ranking.candidates) {
-        out += (out.empty() ? "" : ", ") + c.name + " " + std::to_string(c.lead().fit);
+        out += (out.empty() ? "" : ", ") + std::string(c.name) + " " + std::to_string(c.lead().fit);
     }
     return out;
 }
