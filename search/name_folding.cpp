@@ -42,10 +42,4 @@ bool asciiNameContains(std::string_view haystack, std::string_view foldedNeedle)
                        [&](char a, char b) { return lower(a) == b; }) != haystack.end();
 }
 
-bool nameContains(std::string_view haystack, std::string_view foldedNeedle) {
-    // The common case without building a folded copy of the name.
-    return text::isAscii(haystack) ? asciiNameContains(haystack, foldedNeedle)
-                                   : foldedName(haystack).find(foldedNeedle) != std::string::npos;
-}
-
 } // namespace velmora

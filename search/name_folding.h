@@ -11,10 +11,8 @@ namespace velmora {
 // Case-folded, decomposed, stripped of combining marks, recomposed.
 std::string foldedName(std::string_view name);
 
-// True when needle, folded, stands in haystack, folded. The empty needle stands in every name.
-bool nameContains(std::string_view haystack, std::string_view foldedNeedle);
-
-// The same for a haystack known to be plain ASCII, which folds to its lower case.
+// True when the folded needle stands in haystack, a plain ASCII name, which folds to its lower
+// case. The empty needle stands in every name.
 bool asciiNameContains(std::string_view haystack, std::string_view foldedNeedle);
 
 } // namespace velmora
