@@ -70,11 +70,8 @@ struct Prepared {
     static double precision(const std::optional<Measured>& m) { return m ? m->precision : 0.0; }
 
     void rateRi(const RankingRow& row, RankedStone& r) const {
-        if (!in.overTheLimit && !in.ri) {
-            return;
-        }
         const auto& span = row.ri;
-        if (!span) {
+        if ((!in.overTheLimit && !in.ri) || !span) {
             return;
         }
         auto& slot = r.deviations[indexOf(Property::RI)];
@@ -94,11 +91,8 @@ struct Prepared {
     }
 
     void rateBirefringence(const RankingRow& row, RankedStone& r) const {
-        if (!spread) {
-            return;
-        }
         const auto& span = row.birefringence;
-        if (!span) {
+        if (!spread || !span) {
             return;
         }
         Deviation d = deviationFrom(*spread, *span, birefringenceTolerance);
@@ -116,10 +110,7 @@ struct Prepared {
 
     void rateRange(const std::optional<Measured>& m, const std::optional<ValueSpan>& span,
                    Property p, double tolerance, RankedStone& r) const {
-        if (!m) {
-            return;
-        }
-        if (!span) {
+        if (!m || !span) {
             return;
         }
         r.deviations[indexOf(p)] = deviationFrom(m->value, *span, tolerance);
@@ -193,28 +184,8 @@ template <class Rated> int compareFits(const Rated& a, const Rated& b) {
     return 0;
 }
 
-} // namespace
-
-Ranking rankStones(const StoneList& stones, const RankingInputs& inputs,
-                   const RankingSettings& settings) {
-    return rankStones(RankingTable(stones), inputs, settings);
-}
-
-Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
-                   const RankingSettings& settings) {
-    const Prepared prepared(inputs, settings);
-    std::vector<RankedStone> rated;
-    rated.reserve(table.rows().size());
-    for (const RankingRow& row : table.rows()) {
-        if (prepared.foldedName && !nameHolds(row, *prepared.foldedName)) {
-            continue;
-        }
-        rated.push_back(prepared.rate(row));
-    }
-    Ranking ranking;
-    ranking.anyWithinTolerance =
-        std::any_of(rated.begin(), rated.end(), [](const auto& r) { return r.withinTolerance; });
-    // Small keys are sorted, not the stones: a rated stone is large, and its name far away.
+// Best first: small keys are sorted, not the stones, which are large, with their names far away.
+std::vector<std::uint32_t> sortedOrder(const std::vector<RankedStone>& rated) {
     struct Key {
         int fit;
         bool contradictsOptics;
@@ -235,14 +206,20 @@ Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
     });
     std::vector<std::uint32_t> order(keys.size());
     std::transform(keys.begin(), keys.end(), order.begin(), [](const Key& k) { return k.index; });
+    return order;
+}
 
-    // Equal fits of one species, in sorted order, so best first within the species.
-    struct Group {
-        std::string_view name;
-        std::size_t first = 0;
-        std::size_t size = 0;
-    };
-    std::vector<Group> groups;
+struct Group {
+    std::string_view name;
+    std::size_t first = 0;
+    std::size_t size = 0;
+};
+
+// Equal fits of one species, taken in sorted order, so best first within the species; for each
+// place of the order, its group.
+std::vector<std::uint32_t> groupStones(const std::vector<RankedStone>& rated,
+                                       const std::vector<std::uint32_t>& order,
+                                       std::vector<Group>& groups) {
     std::vector<std::uint32_t> groupOfRank(order.size());
     std::unordered_map<GroupKey, std::uint32_t, GroupKeyHash> groupOf;
     for (std::size_t rank = 0; rank < order.size(); ++rank) {
@@ -268,8 +245,14 @@ Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
         g.first = first;
         first += g.size;
     }
-    // Each candidate's members side by side, moved into place within the rated stones: where
-    // each position takes its stone from, then the permutation's cycles followed.
+    return groupOfRank;
+}
+
+// Each group's members side by side in the rated stones themselves: where each place takes its
+// stone from, then the permutation's cycles followed.
+void placeSideBySide(std::vector<RankedStone>& rated, const std::vector<std::uint32_t>& order,
+                     const std::vector<std::uint32_t>& groupOfRank,
+                     const std::vector<Group>& groups) {
     std::vector<std::uint32_t> from(rated.size());
     std::vector<std::size_t> placed(groups.size(), 0);
     for (std::size_t rank = 0; rank < order.size(); ++rank) {
@@ -291,6 +274,33 @@ Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
         rated[at] = held;
         from[at] = static_cast<std::uint32_t>(at);
     }
+}
+
+} // namespace
+
+Ranking rankStones(const StoneList& stones, const RankingInputs& inputs,
+                   const RankingSettings& settings) {
+    return rankStones(RankingTable(stones), inputs, settings);
+}
+
+Ranking rankStones(const RankingTable& table, const RankingInputs& inputs,
+                   const RankingSettings& settings) {
+    const Prepared prepared(inputs, settings);
+    std::vector<RankedStone> rated;
+    rated.reserve(table.rows().size());
+    for (const RankingRow& row : table.rows()) {
+        if (prepared.foldedName && !nameHolds(row, *prepared.foldedName)) {
+            continue;
+        }
+        rated.push_back(prepared.rate(row));
+    }
+    Ranking ranking;
+    ranking.anyWithinTolerance =
+        std::any_of(rated.begin(), rated.end(), [](const auto& r) { return r.withinTolerance; });
+    const std::vector<std::uint32_t> order = sortedOrder(rated);
+    std::vector<Group> groups;
+    const std::vector<std::uint32_t> groupOfRank = groupStones(rated, order, groups);
+    placeSideBySide(rated, order, groupOfRank, groups);
     ranking.stones_ = std::move(rated);
     ranking.candidates.reserve(groups.size());
     for (const Group& g : groups) {
