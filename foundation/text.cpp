@@ -57,6 +57,14 @@ bool equals(std::string_view a, std::string_view b) {
     return normalized(a) == normalized(b);
 }
 
+int compare(std::string_view a, std::string_view b) {
+    // UTF-8 byte order is scalar value order, so comparing the normalized bytes is enough.
+    if (isAscii(a) && isAscii(b)) {
+        return a.compare(b);
+    }
+    return normalized(a).compare(normalized(b));
+}
+
 std::string lowercased(std::string_view s) {
     if (isAscii(s)) {
         std::string out(s);

@@ -17,6 +17,10 @@ std::string normalized(std::string_view s);
 // True when the two texts are canonically equivalent.
 bool equals(std::string_view a, std::string_view b);
 
+// Negative, zero or positive as a sorts before, equal to or after b: scalar value by scalar value
+// after normalization, case-sensitive, with no locale collation. A prefix sorts first.
+int compare(std::string_view a, std::string_view b);
+
 // The full default lower-case mapping, the same in every locale (no Turkish dotless i).
 std::string lowercased(std::string_view s);
 

@@ -1,17 +1,12 @@
 #include "search/property_search.h"
 
-#include "foundation/c_number.h"
 #include "foundation/text.h"
+#include "search/range_cell.h"
 
-#include <array>
 #include <vector>
 
 namespace velmora {
 namespace {
-
-double boundOf(const std::string& piece) {
-    return parseCNumber(piece).value_or(0.0);
-}
 
 bool hasColor(const Stones& stone, const std::string& lowerColor) {
     for (const std::string* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
@@ -55,33 +50,8 @@ struct PreparedCriteria {
 } // namespace
 
 bool matchesRange(std::string_view field, double value) {
-    // Short pieces stay in the strings' own storage: no allocation for a usual cell.
-    std::array<std::string, 2> pieces;
-    std::size_t count = 0;
-    std::string current;
-    const auto endPiece = [&] {
-        if (!current.empty()) {
-            pieces[count++] = std::move(current);
-            current.clear();
-        }
-    };
-    for (const char c : field) {
-        if (c == '-') {
-            endPiece();
-            if (count == pieces.size()) {
-                break;
-            }
-        } else if (c != ' ') {
-            current += c;
-        }
-    }
-    if (count < pieces.size()) {
-        endPiece();
-    }
-    if (count < pieces.size()) {
-        return false;
-    }
-    return boundOf(pieces[0]) <= value && value <= boundOf(pieces[1]);
+    const RangeCell cell = readRangeCell(field);
+    return cell.pieces == 2 && cell.low.value_or(0.0) <= value && value <= cell.high.value_or(0.0);
 }
 
 StoneList findStones(const StoneList& table, const SearchCriteria& criteria) {

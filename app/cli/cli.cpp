@@ -2,6 +2,7 @@
 
 #include "data/reference_loader.h"
 #include "foundation/bundle.h"
+#include "foundation/posix/environment_locale.h"
 
 #include <CLI/CLI.hpp>
 #include <ostream>
@@ -13,6 +14,10 @@ std::optional<std::filesystem::path> Context::referencePath() const {
         return std::filesystem::path(*reference);
     }
     return referenceFilePath(Bundle::main());
+}
+
+FixedLocale Context::locale() const {
+    return decimalSeparator ? FixedLocale(*decimalSeparator) : environmentLocale();
 }
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
@@ -39,6 +44,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addIdentifyCommand(app, context);
     addShowCommand(app, context);
     addReadCommand(app, context);
+    addRankCommand(app, context);
 
     try {
         app.parse(argc, argv);

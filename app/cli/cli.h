@@ -6,6 +6,8 @@
 // Exit status: 0 success; 1 the logic raised an alert (its texts on standard error) or the
 // reference file could not be read; 2 a usage error.
 
+#include "foundation/locale.h"
+
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
@@ -32,6 +34,8 @@ struct Context {
 
     // The file given with --reference, else the bundled reference file (if any).
     std::optional<std::filesystem::path> referencePath() const;
+    // The number conventions given with --decimal-separator, else the environment's.
+    FixedLocale locale() const;
 };
 
 // Each command adds itself to the app; its callback sets context.exitCode.
@@ -40,6 +44,7 @@ void addWatchCommand(CLI::App& app, Context& context);
 void addIdentifyCommand(CLI::App& app, Context& context);
 void addShowCommand(CLI::App& app, Context& context);
 void addReadCommand(CLI::App& app, Context& context);
+void addRankCommand(CLI::App& app, Context& context);
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 

@@ -1,17 +1,12 @@
 #include "app/cli/headless_window.h"
 
-#include "foundation/posix/environment_locale.h"
-
 #include <ostream>
 
 namespace velmora::cli {
 namespace {
 
 std::unique_ptr<Locale> localeOf(const Context& context) {
-    if (context.decimalSeparator) {
-        return std::make_unique<FixedLocale>(*context.decimalSeparator);
-    }
-    return std::make_unique<FixedLocale>(environmentLocale());
+    return std::make_unique<FixedLocale>(context.locale());
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
-#include "foundation/posix/environment_locale.h"
 #include "foundation/posix/sys_log.h"
 
 #include <CLI/CLI.hpp>
@@ -23,13 +22,6 @@ struct ReadOptions {
     std::string replayFile;
     std::optional<int> count;
 };
-
-std::unique_ptr<Locale> displayLocale(const Context& context) {
-    if (!context.decimalSeparator) {
-        return std::make_unique<FixedLocale>(environmentLocale());
-    }
-    return std::make_unique<FixedLocale>(*context.decimalSeparator);
-}
 
 } // namespace
 
@@ -69,9 +61,9 @@ void addReadCommand(CLI::App& app, Context& context) {
                 std::make_shared<sim::ReplayedReadings>(std::move(readings)));
         }
 
-        const auto locale = displayLocale(context);
+        const FixedLocale locale = context.locale();
         switch (
-            printLiveReadings(managers, log, *locale, options->count, context.json, *context.out)) {
+            printLiveReadings(managers, log, locale, options->count, context.json, *context.out)) {
         case SessionEnd::NoInstrument:
             // Not an alert: the window shows none when Connect finds no instrument, its panel
             // just stays Disconnected. A script still has to learn that no reading will come.

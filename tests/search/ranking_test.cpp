@@ -1,0 +1,222 @@
+#include "search/deviation_text.h"
+#include "search/hydrostatic.h"
+#include "search/name_folding.h"
+#include "search/range_cell.h"
+#include "search/ranking.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+struct Row {
+    std::string name;
+    std::string ri;
+    std::string sg = "";
+    std::string birefringence = "";
+    std::string family = "";
+    std::string hardness = "";
+    std::string color = "";
+};
+
+StoneList table(const std::vector<Row>& rows) {
+    std::vector<Stones> stones;
+    for (const auto& r : rows) {
+        Stones s;
+        s.StoneName = r.name;
+        s.Ri = r.ri;
+        s.SgRange = r.sg;
+        s.Birefringence = r.birefringence;
+        s.StoneFamily = r.family;
+        s.Hardness = r.hardness;
+        s.Color2 = r.color;
+        stones.push_back(s);
+    }
+    return StoneList(std::move(stones));
+}
+
+// "name fit%" per candidate, best first.
+std::string order(const Ranking& ranking) {
+    std::string out;
+    for (const auto& c : ranking.candidates) {
+        out += (out.empty() ? "" : ", ") + std::string(c.name) + " " + std::to_string(c.lead().fit);
+    }
+    return out;
+}
+
+Measured m(double value, double precision = 0) {
+    return {value, precision};
+}
+
+TEST(RangeCell, ASingleNumberIsAPointAndAnUnreadableOrReversedCellNoSpan) {
+    const struct {
+        const char* cell;
+        std::optional<std::pair<double, double>> span;
+    } cases[] = {
+        {"1.544 - 1.553", {{1.544, 1.553}}},
+        {"2.65", {{2.65, 2.65}}},
+        {"7-7", {{7, 7}}},
+        {"", std::nullopt},
+        {"none", std::nullopt},
+        {"1.55-1.54", std::nullopt},
+        {"1.54-x", std::nullopt},
+        {"1.76-1.77-1.78", {{1.76, 1.77}}},
+    };
+    for (const auto& c : cases) {
+        const auto span = spanOf(c.cell);
+        ASSERT_EQ(span.has_value(), c.span.has_value()) << c.cell;
+        if (span) {
+            EXPECT_EQ(std::make_pair(span->low, span->high), *c.span) << c.cell;
+        }
+    }
+}
+
+TEST(Ranking, FitFallsOnlyBeyondTheToleranceAndByThePropertysWeight) {
+    const auto stones = table({{"Quartz", "1.544-1.553", "2.64-2.66", "", "", "7", "Pink"}});
+    const struct {
+        RankingInputs in;
+        int fit;
+    } cases[] = {
+        {{.ri = m(1.550)}, 100},
+        {{.ri = m(1.542)}, 100},             // one tolerance below
+        {{.ri = m(1.540)}, 61},              // one beyond: e^-1/2
+        {{.ri = m(1.540, 0.005)}, 100},      // typed as 1.54: held to its own precision
+        {{.sg = m(2.70)}, 78},               // S.G. weighs half
+        {{.hardness = m(6)}, 88},            // a whole step off, a quarter
+        {{.color = "PINK"}, 100},            // any case
+        {{.color = "Green"}, 88},            // a colour not among its own
+        {{.ri = m(1.600), .sg = m(2.65)}, 0} // far off on R.I., whatever else fits
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(rankStones(stones, c.in).candidates.at(0).lead().fit, c.fit)
+            << c.in.ri.value_or(m(0)).value << " " << c.in.sg.value_or(m(0)).value;
+    }
+}
+
+TEST(Ranking, OverTheLimitFitsStonesReachingAboveTheInstrumentsLimit) {
+    const auto stones = table(
+        {{"Zircon (low)", "1.780-1.850"}, {"Diamond", "2.417-2.419"}, {"Spinel", "1.712-1.736"}});
+    const auto ranking = rankStones(stones, {.overTheLimit = true});
+    EXPECT_EQ(order(ranking), "Diamond 100, Zircon (low) 100, Spinel 0");
+    EXPECT_DOUBLE_EQ(ranking.candidates[2].lead().deviations[0]->off, 1.736 - 1.810);
+    EXPECT_EQ(order(rankStones(stones, {.overTheLimit = true}, {.overTheLimit = 1.854})),
+              "Diamond 100, Zircon (low) 61, Spinel 0");
+}
+
+TEST(Ranking, EqualFitsComeNarrowestFirstThenByNameAndOneSpeciesIsOneCandidate) {
+    const auto stones = table({{"Abalone shell", "1.530-1.685", "2.65-2.85", "", "Organic"},
+                               {"Rose quartz", "1.544-1.553", "2.64-2.66", "0.009", "Quartz"},
+                               {"Amethyst", "1.544-1.553", "2.64-2.66", "0.009", "Quartz"},
+                               {"Oligoclase", "1.539-1.548", "2.64-2.67", "", "Feldspar"},
+                               {"Quartzite", "1.540-1.560", "2.60-2.70", "", "Quartz"},
+                               {"Opal", "1.44-1.46", "2.0-2.2", "", "Opal"},
+                               {"Hyalite", "1.42-1.43", "2.0-2.2", "", "Opal"}});
+    const auto ranking = rankStones(stones, {.ri = m(1.543), .sg = m(2.65)});
+    // Oligoclase is a little wider than quartz; quartzite, wider still, joins the quartz that
+    // fits as well; the two opals are far off, nearest first, and not one candidate.
+    EXPECT_EQ(order(ranking), "Quartz 100, Oligoclase 100, Abalone shell 100, Opal 0, Hyalite 0");
+    std::string quartz;
+    for (const auto& member : ranking.candidates[0].members) {
+        quartz += member.stone->StoneName + ";";
+    }
+    EXPECT_EQ(quartz, "Amethyst;Rose quartz;Quartzite;");
+    EXPECT_TRUE(ranking.anyWithinTolerance);
+}
+
+TEST(Ranking, TheSpreadOfTwoReadingsSeparatesByOpticCharacter) {
+    const auto stones = table({{"Spinel", "1.712-1.736", "", "none"},
+                               {"Epidote", "1.700-1.760", "", "0.003-0.050"},
+                               {"Tourmaline", "1.614-1.650", "", "0.014-0.024"},
+                               {"Glass", "1.500-1.700", "", "none"},
+                               {"Pearl", "1.530-1.685", "", "not measurable (aggregate)"}});
+    const struct {
+        RankingInputs in;
+        std::string order;
+    } cases[] = {
+        // Just beyond the tolerance the singly refractive spinel still shows 100 % and is the
+        // narrower, yet the doubly refractive epidote comes first.
+        {{.ri = m(1.7180), .riHigh = m(1.7211)},
+         "Epidote 100, Spinel 100, Pearl 0, Tourmaline 0, "
+         "Glass 0"},
+        // No spread: the strongly doubly refractive tourmaline falls behind what fits.
+        {{.ri = m(1.620), .riHigh = m(1.621)},
+         "Pearl 100, Glass 100, Tourmaline 51, Epidote 0, "
+         "Spinel 0"},
+        // A spread below the stone's counts with twice the tolerance: 0.010 short is 80 %.
+        {{.ri = m(1.620), .riHigh = m(1.624)},
+         "Pearl 100, Glass 95, Tourmaline 80, Epidote 0, "
+         "Spinel 0"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(order(rankStones(stones, c.in)), c.order);
+    }
+    // Unless nothing else fits.
+    const auto alone = table(
+        {{"Tourmaline", "1.614-1.650", "", "0.014-0.024"}, {"Spinel", "1.712-1.736", "", "none"}});
+    EXPECT_EQ(order(rankStones(alone, {.ri = m(1.620), .riHigh = m(1.621)})),
+              "Tourmaline 51, Spinel 0");
+}
+
+TEST(Ranking, TheNameFiltersWithoutCaseOrAccents) {
+    const auto stones = table({{"Paraíba tourmaline", "1.614-1.650"},
+                               {"Rubellite", "1.614-1.650"},
+                               {"Parai\xCC\x81"
+                                "ba glass",
+                                "1.5-1.6"}});
+    for (const char* typed : {"paraiba", "PARAÍBA", "raíb"}) {
+        EXPECT_EQ(order(rankStones(stones, {.name = typed})),
+                  "Parai\xCC\x81"
+                  "ba glass 100, Paraíba tourmaline 100")
+            << typed;
+    }
+    EXPECT_EQ(foldedName("Ångström ÉCLAT"), "angstrom eclat");
+    EXPECT_TRUE(rankStones(stones, {.name = "beryl"}).candidates.empty());
+}
+
+TEST(Ranking, DeviationsReadAtAGlanceAndNearMatchesSayWhatFits) {
+    const auto stones = table({{"Quartz", "1.544-1.553", "2.64-2.66", "", "", "7", "Pink"}});
+    const auto lead = [&](const RankingInputs& in) {
+        return rankStones(stones, in).candidates.at(0).lead();
+    };
+    const RankingInputs far{.ri = m(1.557), .sg = m(2.65), .color = "Green"};
+    EXPECT_FALSE(rankStones(stones, far).anyWithinTolerance);
+    EXPECT_EQ(deviationText(lead(far), false, true, "."),
+              "R.I. 0.004 above; S.G. fits; Colour differs");
+    EXPECT_EQ(deviationText(lead(far), false, false, ","), "R.I. 0,004 above; Colour differs");
+    EXPECT_EQ(deviationText(lead({.sg = m(2.6004), .hardness = m(5.5)}), false, false, "."),
+              "S.G. 0.04 below; Hardness 1.5 below");
+    EXPECT_EQ(deviationText(lead({.ri = m(1.5531)}), false, false, "."), "");
+    EXPECT_EQ(deviationText(lead({.overTheLimit = true}), true, false, "."),
+              "R.I. 0.257 below the limit");
+}
+
+TEST(Hydrostatic, SpecificGravityIsAirOverLossWithItsPrecisionOrTheProblem) {
+    const auto diamond = specificGravityFromWeights(m(1.000, 0.0005), m(0.716, 0.0005));
+    ASSERT_TRUE(diamond.sg);
+    EXPECT_NEAR(diamond.sg->value, 3.521, 0.001);
+    EXPECT_NEAR(diamond.sg->precision, 0.0106, 0.0001);
+    // A fifth of the weight, five times the loss error: small stones weigh poorly.
+    EXPECT_NEAR(specificGravityFromWeights(m(0.200, 0.0005), m(0.143, 0.0005)).sg->precision, 0.053,
+                0.001);
+    const struct {
+        double air;
+        double water;
+        const char* problem;
+    } impossible[] = {
+        {0, 0, "The weight in air must be above zero."},
+        {-1, -2, "The weight in air must be above zero."},
+        {1, 0,
+         "The weight in water must be above zero: a stone that floats cannot be weighed "
+         "this way."},
+        {1, 1, "The weight in water must be below the weight in air: water buoys the stone up."},
+        {1, 2, "The weight in water must be below the weight in air: water buoys the stone up."},
+    };
+    for (const auto& c : impossible) {
+        const auto r = specificGravityFromWeights(m(c.air), m(c.water));
+        EXPECT_FALSE(r.sg);
+        EXPECT_EQ(r.problem, c.problem);
+    }
+}
+
+} // namespace
+} // namespace velmora::test
