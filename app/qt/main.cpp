@@ -5,8 +5,10 @@
 #include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/qt/options.h"
+#include "app/qt/qt_locale.h"
 #include "app/qt/qt_localized_strings.h"
 #include "app/qt/qt_pdf_leaks.h"
+#include "app/qt/qt_run_loop.h"
 #include "app/qt/startup_report.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
@@ -14,8 +16,6 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
-#include "app/qt/qt_locale.h"
-#include "app/qt/qt_run_loop.h"
 #include "ui/qt/message_box_alert_presenter.h"
 
 #include <QApplication>

@@ -6,11 +6,11 @@
 #include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/qt/qt_pdf_leaks.h"
+#include "app/qt/qt_run_loop.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
-#include "app/qt/qt_run_loop.h"
 
 #include <QAbstractButton>
 #include <QApplication>
