@@ -18,7 +18,8 @@ QFunctionPointer resolveModuleFunction(const QString& module, const char* functi
         if (const QFunctionPointer resolved = library.resolve(function)) {
             return resolved;
         }
-        error = library.errorString();
+        // QLibrary's own message for this is "Unknown error".
+        error = QString("%1 has no function %2").arg(library.fileName(), function);
         return nullptr;
     }
     return nullptr;
