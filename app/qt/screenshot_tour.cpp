@@ -62,7 +62,7 @@ public:
 
 class Tour {
 public:
-    Tour(MainWindowWidget& window, QDir out) : window_(window), out_(std::move(out)) {}
+    Tour(MainWindowWidget& window, const QDir& out) : window_(window), out_(out) {}
 
     bool run() {
         window_.resize(1280, 800);
