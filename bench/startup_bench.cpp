@@ -26,6 +26,7 @@ struct Sample {
 
 bool runOnce(const std::vector<std::string>& command, Sample& sample) {
     std::vector<char*> argv;
+    argv.reserve(command.size() + 1);
     for (const auto& word : command) {
         argv.push_back(const_cast<char*>(word.c_str()));
     }
