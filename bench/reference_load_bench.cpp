@@ -14,7 +14,7 @@ namespace {
 
 std::filesystem::path generatedFile() {
     static const std::filesystem::path path = [] {
-        const auto p = std::filesystem::temp_directory_path() / "velmora-bench-reference.csv";
+        auto p = std::filesystem::temp_directory_path() / "velmora-bench-reference.csv";
         std::ofstream out(p, std::ios::binary);
         out << "StoneID,StoneName,SgAverage,SgMin,SgMax,SgRange,Ri,RiMin,RiMax,Hardness,HMin,Hmax,"
                "StonenameUSB,SgAverageUSB,Birefringence,StoneFamily,NEW,BirefMin,BirefMax,"

@@ -9,8 +9,8 @@
 #include "app/qt/qt_localized_strings.h"
 #include "app/qt/qt_pdf_leaks.h"
 #include "app/qt/qt_run_loop.h"
+#include "app/qt/sqlite_store_loader.h"
 #include "app/qt/startup_report.h"
-#include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
 #include "device/hidapi/hidapi_manager.h"
 #include "device/sim/replayed_readings.h"
@@ -60,9 +60,8 @@ AppDelegate::ContainerFactory containerInDataFolder() {
     const std::filesystem::path folder(
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdU16String());
     return [folder] {
-        return std::make_unique<SqliteStore>(
-            folder / (std::string(AppDelegate::containerName) + ".sqlite"),
-            Bundle::main().pathForResource(AppDelegate::containerName, "sql"));
+        return loadSqliteStore(folder / (std::string(AppDelegate::containerName) + ".sqlite"),
+                               Bundle::main().pathForResource(AppDelegate::containerName, "sql"));
     };
 }
 
@@ -94,7 +93,6 @@ int run(int argc, char** argv) {
     QApplication::setApplicationName("Velmora");
     QApplication::setApplicationVersion(VELMORA_VERSION);
     QGuiApplication::setDesktopFileName(VELMORA_APP_ID);
-    QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID));
     useLightAppearance(application);
 
     QtRunLoop runLoop(&application);
@@ -119,6 +117,9 @@ int run(int argc, char** argv) {
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         shell.window().resize(shell.window().size().boundedTo(screen->availableSize()));
     }
+    // Looking the icon up parses the icon theme's index, which the first paint does not need.
+    afterFirstPaint(shell.window(),
+                    [] { QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID)); });
     shell.window().show();
     return QApplication::exec();
 }

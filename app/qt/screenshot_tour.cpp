@@ -6,11 +6,11 @@
 #include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
 #include "app/qt/qt_pdf_leaks.h"
+#include "app/qt/qt_run_loop.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
-#include "app/qt/qt_run_loop.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -62,7 +62,7 @@ public:
 
 class Tour {
 public:
-    Tour(MainWindowWidget& window, QDir out) : window_(window), out_(std::move(out)) {}
+    Tour(MainWindowWidget& window, const QDir& out) : window_(window), out_(out) {}
 
     bool run() {
         window_.resize(1280, 800);

@@ -26,8 +26,8 @@ std::optional<long long> residentBytes() {
 
 class FirstPaint final : public QObject {
 public:
-    FirstPaint(QWidget& window, std::chrono::steady_clock::time_point started, std::ostream& out)
-        : QObject(&window), started_(started), out_(out) {
+    FirstPaint(QWidget& window, std::function<void()> task)
+        : QObject(&window), task_(std::move(task)) {
         window.installEventFilter(this);
     }
 
@@ -36,34 +36,41 @@ protected:
         if (event->type() == QEvent::Paint) {
             watched->removeEventFilter(this);
             // After the work queued so far, the set-up's included.
-            QTimer::singleShot(0, this, [this] { report(); });
+            QTimer::singleShot(0, this, [this] {
+                task_();
+                deleteLater();
+            });
         }
         return false;
     }
 
 private:
-    void report() {
-        const std::chrono::duration<double, std::milli> elapsed =
-            std::chrono::steady_clock::now() - started_;
-        out_ << "window shown after " << std::fixed << std::setprecision(1) << elapsed.count()
-             << " ms";
-        if (const auto bytes = residentBytes()) {
-            out_ << ", resident memory " << std::setprecision(1)
-                 << static_cast<double>(*bytes) / (1024.0 * 1024.0) << " MiB";
-        }
-        out_ << std::endl;
-        QCoreApplication::quit();
-    }
-
-    std::chrono::steady_clock::time_point started_;
-    std::ostream& out_;
+    std::function<void()> task_;
 };
+
+void report(std::chrono::steady_clock::time_point started, std::ostream& out) {
+    const std::chrono::duration<double, std::milli> elapsed =
+        std::chrono::steady_clock::now() - started;
+    out << "window shown after " << std::fixed << std::setprecision(1) << elapsed.count() << " ms";
+    if (const auto bytes = residentBytes()) {
+        out << ", resident memory " << std::setprecision(1)
+            << static_cast<double>(*bytes) / (1024.0 * 1024.0) << " MiB";
+    }
+    out << std::endl;
+    // Not quit(): that asks the window to close as the user would, and the delegate then
+    // opens (on a first start, creates) the container to save it, which is no part of start-up.
+    QCoreApplication::exit(0);
+}
 
 } // namespace
 
+void afterFirstPaint(QWidget& window, std::function<void()> task) {
+    new FirstPaint(window, std::move(task));
+}
+
 void reportStartupThenQuit(QWidget& window, std::chrono::steady_clock::time_point started,
                            std::ostream& out) {
-    new FirstPaint(window, started, out);
+    afterFirstPaint(window, [started, &out] { report(started, out); });
 }
 
 } // namespace velmora::qt

@@ -1,14 +1,12 @@
 #pragma once
 
 // The tutorial screen on the desktop: the tutorial document in a PDF viewer that fills the
-// screen, page after page, as wide as the screen.
+// screen, page after page, as wide as the screen. The viewer comes from its module (see
+// pdf_viewer_module.h); without the module the screen stays empty.
 
 #include "app/pdf_view_controller.h"
 
 #include <QDialog>
-
-class QPdfDocument;
-class QPdfView;
 
 namespace velmora::qt {
 
@@ -19,8 +17,7 @@ public:
 private:
     void showDocument(const std::filesystem::path& file) override;
 
-    QPdfView* viewer_;
-    QPdfDocument* document_;
+    QWidget* viewer_ = nullptr;
     PDFViewController controller_;
 };
 

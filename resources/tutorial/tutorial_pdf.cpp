@@ -25,7 +25,7 @@ namespace {
 constexpr int dpi = 300;
 
 // Markdown images whose file is not there become their caption in italics.
-QString withMissingImagesAsCaptions(QString markdown, const QString& screenshots) {
+QString withMissingImagesAsCaptions(const QString& markdown, const QString& screenshots) {
     static const QRegularExpression image(QStringLiteral(R"(!\[([^\]]*)\]\(([^)]+)\))"));
     QString out;
     qsizetype last = 0;

@@ -22,7 +22,7 @@ public:
 
 class AppDelegateTest : public ::testing::Test {
 protected:
-    AppDelegate& delegate(MemoryStoreSetup setup = {}) {
+    AppDelegate& delegate(const MemoryStoreSetup& setup = {}) {
         delegate_.emplace(
             connector,
             [this, setup] {

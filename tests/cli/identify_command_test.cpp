@@ -32,7 +32,7 @@ TEST(IdentifyCommand, UnderACommaSeparatorListsWhatTheWindowsTableLists) {
     window.click(window.window.btn_search);
     std::string listed;
     for (const auto& [number, name] : window.tableRows()) {
-        listed += number + "\t" + name + "\n";
+        listed.append(number).append("\t").append(name).append("\n");
     }
     EXPECT_EQ(r.out, listed);
     EXPECT_EQ(r.out, "1\tAmethyst\n12\tQuartz\n");

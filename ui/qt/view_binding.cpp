@@ -17,14 +17,24 @@ void ViewBinding::apply(Property property) {
     }
     switch (property) {
     case Property::Hidden:
-        widget_->setHidden(view_.isHidden());
+        // Showing a widget that is not hidden would polish it at once, before the window is
+        // styled, and every style sheet set later would then restyle it again.
+        if (widget_->isHidden() != view_.isHidden()) {
+            widget_->setHidden(view_.isHidden());
+        }
         break;
     case Property::BackgroundColor:
     case Property::BorderWidth:
     case Property::BorderColor:
-    case Property::CornerRadius:
-        widget_->setStyleSheet(layerStyleSheet(widget_->objectName(), view_));
+    case Property::CornerRadius: {
+        // Setting a style sheet restyles the widget and all it holds, the same one included:
+        // done four times for each element as the window is bound, that was most of start-up.
+        const QString sheet = layerStyleSheet(widget_->objectName(), view_);
+        if (sheet != widget_->styleSheet()) {
+            widget_->setStyleSheet(sheet);
+        }
         break;
+    }
     case Property::Enabled:
         if (const auto* control = dynamic_cast<const Control*>(&view_)) {
             widget_->setEnabled(control->isEnabled());

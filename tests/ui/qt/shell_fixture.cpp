@@ -52,7 +52,7 @@ ShellTest::ShellTest()
 
 ShellTest::~ShellTest() = default;
 
-void ShellTest::open(ShellSetup setup) {
+void ShellTest::open(const ShellSetup& setup) {
     if (setup.withTutorial) {
         writeTutorial(dir.path() / "Tutorial.pdf");
     }

@@ -37,7 +37,7 @@ protected:
     ~ShellTest() override;
 
     // Starts the application and shows its window, active.
-    void open(ShellSetup setup = {});
+    void open(const ShellSetup& setup = {});
 
     qt::MainWindowWidget& window() { return shell_->window(); }
     template <class Widget = QWidget> Widget* widget(const char* name) {
