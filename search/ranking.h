@@ -79,8 +79,10 @@ struct RankedStone {
     std::array<std::optional<Deviation>, propertyCount> deviations{};
     bool withinTolerance = true;
     bool contradictsOptics = false;
-    double breadth = 0; // the ranges' widths in tolerances, weighted; smaller is more telling
-    double penalty = 0; // the sum in the fit's exponent
+    int outside = 0;       // properties read outside the stone's range, though within tolerance
+    bool spotOnly = false; // an aggregate under an edge read to the third decimal
+    double breadth = 0;    // the ranges' widths in tolerances, weighted; smaller is more telling
+    double penalty = 0;    // the sum in the fit's exponent
 };
 
 // One line of the result: a stone, or the equally fitting varieties of one species.
