@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 #include <numeric>
 #include <unordered_map>
 
@@ -74,8 +75,9 @@ struct Prepared {
         }
     }
 
+    // The range blurred by a reading's normal error of the tolerance is width + sqrt(2 pi) t wide.
     static double widthTerm(ValueSpan span, double tolerance) {
-        return std::log(1 + (span.high - span.low) / (2.5 * tolerance));
+        return std::log(1 + (span.high - span.low) / (std::sqrt(2 * std::numbers::pi) * tolerance));
     }
 
     static double precision(const std::optional<Measured>& m) { return m ? m->precision : 0.0; }
