@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 #include <numeric>
 #include <unordered_map>
 
@@ -14,6 +15,9 @@ namespace velmora {
 namespace {
 
 constexpr std::array<double, propertyCount> weights = {1.0, 1.0, 0.5, 0.25, 0.25};
+
+// Readings further apart are a carbonate's birefringence blink, which aggregates show too.
+constexpr double blinkSpread = 0.100;
 
 // From about this birefringence the two shadow edges part visibly whatever the facet.
 constexpr double strongBirefringence = 0.010;
@@ -47,6 +51,8 @@ struct Prepared {
     std::optional<double> spread;
     std::optional<std::uint16_t> color;
     std::optional<std::string> foldedName;
+    // Two edges, or one read finer than the two decimals of a spot reading.
+    bool sharpEdge;
 
     Prepared(const RankingInputs& inputs, const RankingSettings& s)
         : in(inputs), settings(s),
@@ -55,7 +61,9 @@ struct Prepared {
           sgTolerance(std::max(s.sgTolerance, precision(inputs.sg))),
           hardnessTolerance(std::max(s.hardnessTolerance, precision(inputs.hardness))),
           birefringenceTolerance(
-              std::max(s.birefringenceTolerance, precision(inputs.ri) + precision(inputs.riHigh))) {
+              std::max(s.birefringenceTolerance, precision(inputs.ri) + precision(inputs.riHigh))),
+          sharpEdge(inputs.ri && inputs.ri->precision < 0.001 &&
+                    !(inputs.riHigh && inputs.riHigh->value - inputs.ri->value > blinkSpread)) {
         if (inputs.ri && inputs.riHigh && !inputs.overTheLimit) {
             spread = inputs.riHigh->value - inputs.ri->value;
         }
@@ -65,6 +73,11 @@ struct Prepared {
         if (inputs.name) {
             foldedName = velmora::foldedName(*inputs.name);
         }
+    }
+
+    // The range blurred by a reading's normal error of the tolerance is width + sqrt(2 pi) t wide.
+    static double widthTerm(ValueSpan span, double tolerance) {
+        return std::log(1 + (span.high - span.low) / (std::sqrt(2 * std::numbers::pi) * tolerance));
     }
 
     static double precision(const std::optional<Measured>& m) { return m ? m->precision : 0.0; }
@@ -87,7 +100,8 @@ struct Prepared {
                 slot = high;
             }
         }
-        r.breadth += weights[indexOf(Property::RI)] * (span->high - span->low) / riTolerance;
+        r.breadth += weights[indexOf(Property::RI)] * widthTerm(*span, riTolerance);
+        r.spotOnly = row.aggregate && sharpEdge;
     }
 
     void rateBirefringence(const RankingRow& row, RankedStone& r) const {
@@ -100,8 +114,8 @@ struct Prepared {
             d.units /= 2;
         }
         r.deviations[indexOf(Property::Birefringence)] = d;
-        r.breadth += weights[indexOf(Property::Birefringence)] * (span->high - span->low) /
-                     birefringenceTolerance;
+        r.breadth +=
+            weights[indexOf(Property::Birefringence)] * widthTerm(*span, birefringenceTolerance);
         const bool singly = span->high == 0;
         const bool spreadSeen = *spread > birefringenceTolerance;
         r.contradictsOptics =
@@ -114,7 +128,7 @@ struct Prepared {
             return;
         }
         r.deviations[indexOf(p)] = deviationFrom(m->value, *span, tolerance);
-        r.breadth += weights[indexOf(p)] * (span->high - span->low) / tolerance;
+        r.breadth += weights[indexOf(p)] * widthTerm(*span, tolerance);
     }
 
     void rateColor(const RankingRow& row, RankedStone& r) const {
@@ -141,6 +155,8 @@ struct Prepared {
                 const double beyond = std::max(0.0, d->units - 1);
                 exponent += weights[p] * beyond * beyond;
                 r.withinTolerance = r.withinTolerance && d->withinTolerance();
+                const bool weighed = p == indexOf(Property::SG) || p == indexOf(Property::Hardness);
+                r.outside += weighed && d->units > 0;
             }
         }
         r.penalty = exponent;
@@ -178,6 +194,12 @@ template <class Rated> int compareFits(const Rated& a, const Rated& b) {
     if (a.fit == 0 && a.penalty != b.penalty) {
         return a.penalty < b.penalty ? -1 : 1;
     }
+    if (a.outside != b.outside) {
+        return a.outside < b.outside ? -1 : 1;
+    }
+    if (a.spotOnly != b.spotOnly) {
+        return a.spotOnly ? 1 : -1;
+    }
     if (a.breadth != b.breadth) {
         return a.breadth < b.breadth ? -1 : 1;
     }
@@ -190,13 +212,15 @@ std::vector<std::uint32_t> sortedOrder(const std::vector<RankedStone>& rated) {
         int fit;
         bool contradictsOptics;
         double penalty;
+        int outside;
+        bool spotOnly;
         double breadth;
         std::uint32_t index;
     };
     std::vector<Key> keys(rated.size());
     for (std::uint32_t i = 0; i < rated.size(); ++i) {
         const RankedStone& r = rated[i];
-        keys[i] = {r.fit, r.contradictsOptics, r.penalty, r.breadth, i};
+        keys[i] = {r.fit, r.contradictsOptics, r.penalty, r.outside, r.spotOnly, r.breadth, i};
     }
     std::sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
         const int byFit = compareFits(a, b);

@@ -24,15 +24,32 @@
 // twice the tolerance. Over the limit, the R.I. fits a stone whose range reaches above the
 // instrument's limit, and lies as far off as its top falls short of it.
 //
-// Order: fit as shown (whole percent), best first (at 0 %, the nearest first); then the narrower
-// ranges first, since a reading inside quartz's 0.009 says more than one inside a shell's 0.155;
-// then the species with more varieties fitting, a likelier identity than a lone row; then by name.
+// Order: fit as shown (whole percent), best first (at 0 %, the nearest first). Among equal fits a
+// stone whose optic character the spread of a low and a high reading contradicts (singly
+// refractive under a spread beyond the tolerance, strongly doubly refractive under one within it)
+// comes after the others: since whatever fits within every tolerance shows 100 %, such a stone
+// comes first only when nothing else fits. Then, the more likely identity first:
+//   1. the S.G. and hardness inside the stone's ranges before only within tolerance of them: a
+//      refractometer reading at the edge of a range is the instrument's own uncertainty, but a
+//      density outside a material's range more often belongs to another material;
+//   2. under an edge read to the third decimal, a single crystal or a glass before an aggregate
+//      or organic material ("not measurable" birefringence), which gives a spot reading to two
+//      decimals, not a sharp edge; two readings more than 0.100 apart are a carbonate's birefringence blink, which an
+//      aggregate shows too, so they do not count as sharp;
+//   3. the narrower ranges: breadth = sum of w_p * ln(1 + width_p / (2.5 t_p)) over the ranges the
+//      readings were compared with. A reading is likelier from a narrow range than from a wide
+//      one (a reading inside quartz's 0.009 says more than one inside a shell's 0.155): a range
+//      blurred by the reading's own error is about width + 2.5 t wide (2.5 = sqrt(2 pi) for a
+//      normal error of t), and the logarithm of that density is what adds up over properties. So
+//      a wide row such as a glass, which imitates everything, is not buried under every narrow
+//      row the reading happens to touch, as a plain sum of widths would do;
+//   4. the species with more varieties fitting, a likelier identity than a lone row; then by name.
 // Stones of one species (StoneFamily) that fit equally form one candidate named after the species
-// (not at 0 %: stones far from everything do not fit equally). With a low and a high reading,
-// a stone whose optic character the spread contradicts (singly refractive under a spread beyond
-// the tolerance, strongly doubly refractive under one within it) comes after the others of the
-// same fit: since whatever fits within every tolerance shows 100 %, such a stone comes first
-// only when nothing else fits.
+// (not at 0 %: stones far from everything do not fit equally).
+//
+// Measured on tests/data/identification_examples.csv (156 stones and published value sets; see
+// the README): the right species is among the first three for 91 %, with the readings as given
+// and with both R.I. readings 0.002 high or low.
 
 #include "data/stone_list.h"
 #include "search/measured.h"
@@ -79,8 +96,10 @@ struct RankedStone {
     std::array<std::optional<Deviation>, propertyCount> deviations{};
     bool withinTolerance = true;
     bool contradictsOptics = false;
-    double breadth = 0; // the ranges' widths in tolerances, weighted; smaller is more telling
-    double penalty = 0; // the sum in the fit's exponent
+    int outside = 0;       // S.G. and hardness outside the stone's ranges, though within tolerance
+    bool spotOnly = false; // an aggregate under an edge read to the third decimal
+    double breadth = 0;    // the ranges' widths on a log scale, weighted; smaller is more telling
+    double penalty = 0;    // the sum in the fit's exponent
 };
 
 // One line of the result: a stone, or the equally fitting varieties of one species.

@@ -21,6 +21,8 @@ struct RankingRow {
     std::optional<ValueSpan> hardness;
     // "none" (singly refractive) as the point 0; "not measurable" as nothing.
     std::optional<ValueSpan> birefringence;
+    // A polycrystalline or organic material: its R.I. is a spot reading, never a sharp edge.
+    bool aggregate = false;
     std::uint16_t colors = 0; // bit i: catalogue entry i stands in one of Color1 to Color6
     bool namesColor = false;  // any colour cell is filled, in the catalogue or not
     std::string foldedName;   // the name folded, when it is not plain ASCII

@@ -123,6 +123,33 @@ TEST(Ranking, EqualFitsComeNarrowestFirstThenByNameAndOneSpeciesIsOneCandidate) 
     EXPECT_TRUE(ranking.anyWithinTolerance);
 }
 
+TEST(Ranking, AmongEqualFitsTheSharperAndTheInsideComeFirst) {
+    const auto stones =
+        table({{"Chalcedony", "1.530-1.540", "2.57-2.65", "not measurable (aggregate)"},
+               {"Glass", "1.480-1.560", "2.30-2.60", "none"},
+               {"Sunstone", "1.537-1.549", "2.62-2.68", "0.007-0.010"}});
+    const struct {
+        RankingInputs in;
+        std::string order;
+    } cases[] = {
+        // The sunstone's S.G. lies outside its range, if within the tolerance: it comes last.
+        // Under an edge read to the third decimal the aggregate, which gives a spot reading,
+        // comes after the glass.
+        {{.ri = m(1.535, 0.0005), .sg = m(2.60, 0.005)}, "Glass 100, Chalcedony 100, Sunstone 100"},
+        // A spot reading to two decimals tells nothing of the edge: the narrowest comes first.
+        {{.ri = m(1.54, 0.005), .sg = m(2.61, 0.005)}, "Chalcedony 100, Sunstone 100, Glass 100"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(order(rankStones(stones, c.in)), c.order);
+    }
+    // Two edges far beyond any single crystal's birefringence are a carbonate's blink, which an
+    // aggregate shows too: the narrower aggregate stays first.
+    const auto carbonates = table({{"Calcite", "1.486-1.658", "", "0.100-0.172"},
+                                   {"Shell", "1.500-1.700", "", "not measurable (aggregate)"}});
+    EXPECT_EQ(order(rankStones(carbonates, {.ri = m(1.530, 0.0005), .riHigh = m(1.655, 0.0005)})),
+              "Shell 100, Calcite 100");
+}
+
 TEST(Ranking, TheSpreadOfTwoReadingsSeparatesByOpticCharacter) {
     const auto stones = table({{"Spinel", "1.712-1.736", "", "none"},
                                {"Epidote", "1.700-1.760", "", "0.003-0.050"},
@@ -138,9 +165,10 @@ TEST(Ranking, TheSpreadOfTwoReadingsSeparatesByOpticCharacter) {
         {{.ri = m(1.7180), .riHigh = m(1.7211)},
          "Epidote 100, Spinel 100, Pearl 0, Tourmaline 0, "
          "Glass 0"},
-        // No spread: the strongly doubly refractive tourmaline falls behind what fits.
+        // No spread: the strongly doubly refractive tourmaline falls behind what fits, and the
+        // aggregate pearl, which gives no sharp edge, behind the glass.
         {{.ri = m(1.620), .riHigh = m(1.621)},
-         "Pearl 100, Glass 100, Tourmaline 51, Epidote 0, "
+         "Glass 100, Pearl 100, Tourmaline 51, Epidote 0, "
          "Spinel 0"},
         // A spread below the stone's counts with twice the tolerance: 0.010 short is 80 %.
         {{.ri = m(1.620), .riHigh = m(1.624)},
