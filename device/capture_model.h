@@ -33,6 +33,9 @@ struct CaptureResult {
 class CaptureModel {
 public:
     explicit CaptureModel(CaptureSettings settings = {});
+    // Its steadiness calls back into it.
+    CaptureModel(const CaptureModel&) = delete;
+    CaptureModel& operator=(const CaptureModel&) = delete;
 
     void onStateChange(std::function<void(SteadinessState)> observer);
     void onSteadyReading(std::function<void(const SteadyReading&)> observer);
