@@ -2,8 +2,8 @@
 
 // What the live panel measures from the reading stream: whether it is steady, the readings the
 // user captures from it (the Capture button, or automatic capture of every steady reading), and
-// the rotation series of the stone on the prism that they make up. The window and the command
-// line feed it each reading with its time on the run loop's clock.
+// the rotation series of the stone on the prism that they make up. Fed each reading with its time
+// on the run loop's clock, as the panel receives them.
 //
 // A series belongs to one stone. New stone starts the next; so, with automatic capture, does the
 // first capture after the stone was lifted. Captured by hand, a lift does not end the series: the

@@ -29,7 +29,7 @@ enum class SteadinessState { noStone, settling, steady };
 struct SteadyReading {
     double value = 0;                 // the window's median, a reading the instrument gave
     double spread = 0;                // the window's highest reading minus its lowest
-    std::chrono::milliseconds time{}; // of the reading that made the window steady
+    std::chrono::milliseconds time{}; // of the window's latest reading
 };
 
 class Steadiness {
