@@ -24,6 +24,7 @@ public:
     void post(Task task) override { tasks_.push_back(std::move(task)); }
     TimerId scheduleRepeating(std::chrono::milliseconds, Task) override { return 1; }
     void cancel(TimerId) override {}
+    std::chrono::milliseconds now() const override { return {}; }
 
     void runPending() {
         while (!tasks_.empty()) {

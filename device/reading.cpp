@@ -24,6 +24,10 @@ std::string formatReadingForDisplay(std::string_view readingText, const Locale& 
     if (parsed.ec != std::errc{} || parsed.ptr != end || !std::isfinite(value)) {
         return {};
     }
+    return formatValueForDisplay(value, locale);
+}
+
+std::string formatValueForDisplay(double value, const Locale& locale) {
     // Large enough for the largest double in fixed notation.
     std::array<char, 352> digits{};
     const auto printed = std::to_chars(digits.data(), digits.data() + digits.size(), value,

@@ -20,4 +20,8 @@ std::string decodeReading(std::uint8_t low, std::uint8_t high);
 // be a number to its end; anything else shows as the empty string.
 std::string formatReadingForDisplay(std::string_view readingText, const Locale& locale);
 
+// A finite value worked out from readings (a steady reading, a birefringence), shown as a reading
+// is.
+std::string formatValueForDisplay(double value, const Locale& locale);
+
 } // namespace velmora

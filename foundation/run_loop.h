@@ -26,6 +26,10 @@ public:
 
     // Stops a timer; an unknown or already cancelled id is ignored. Loop thread only.
     virtual void cancel(TimerId id) = 0;
+
+    // The clock the timers run on, from a start of the loop's choosing: what tells how long a
+    // reading has held still. Loop thread only.
+    virtual std::chrono::milliseconds now() const = 0;
 };
 
 } // namespace velmora

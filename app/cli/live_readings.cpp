@@ -3,8 +3,12 @@
 #include "app/cli/output.h"
 #include "app/cli/watch_platform.h"
 #include "device/reading.h"
+#include "device/steadiness.h"
+#include "foundation/c_number.h"
 #include "foundation/posix/event_loop.h"
 
+#include <limits>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <thread>
 
@@ -34,28 +38,57 @@ void runUntilInterrupted(EventLoop& loop) {
 } // namespace
 
 SessionEnd printLiveReadings(const HIDDeviceConnector::ManagerFactory& managers, Log& log,
-                             const Locale& locale, std::optional<int> count, bool json,
+                             const Locale& locale, const PrintedReadings& options,
                              std::ostream& out) {
+    const auto count = options.count;
     bool connected = false;
     bool unplugged = false;
-    int printed = 0;
-    EventLoop loop;
+    int lines = 0;
+    EventLoop loop(watchPlatform().sessionTime);
     NotificationCenter center;
     center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { connected = true; });
     center.addObserver<HIDDeviceDisconnected>([&](const HIDDeviceDisconnected&) {
         unplugged = true;
         loop.stop();
     });
-    center.addObserver<HIDDeviceDataReceived>([&](const HIDDeviceDataReceived& reading) {
-        if (count && printed == *count) {
-            return;
-        }
-        printRecord(out, json, {{"reading", formatReadingForDisplay(reading.data, locale)}});
+    const auto linePrinted = [&] {
         out.flush();
-        ++printed;
-        if (count && printed == *count) {
+        ++lines;
+        if (count && lines == *count) {
             loop.stop();
         }
+    };
+
+    const auto connectedAt = loop.now();
+    Steadiness steadiness;
+    steadiness.onSteadyReading([&](const SteadyReading& reading) {
+        const std::string shown = formatValueForDisplay(reading.value, locale);
+        if (!options.json) {
+            printRecord(out, false, {{"reading", shown}});
+        } else {
+            // Numbers, in seconds since Connect on the loop's clock for the time.
+            const nlohmann::ordered_json line = {
+                {"reading", shown},
+                {"spread", reading.spread},
+                {"time", std::chrono::duration<double>(reading.time - connectedAt).count()}};
+            out << line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
+                << '\n';
+        }
+        linePrinted();
+    });
+    center.addObserver<HIDDeviceDataReceived>([&](const HIDDeviceDataReceived& reading) {
+        if (count && lines == *count) {
+            return;
+        }
+        if (options.steady) {
+            steadiness.add(
+                loop.now(),
+                parseCNumber(reading.data).value_or(std::numeric_limits<double>::quiet_NaN()));
+            return;
+        }
+        printRecord(out, options.json,
+                    {{"reading", formatReadingForDisplay(reading.data, locale)}});
+        linePrinted();
     });
 
     HIDDeviceConnector connector(managers, loop, center, log);

@@ -20,7 +20,7 @@ constexpr std::uint32_t simulationSeed = 1;
 
 struct ReadOptions {
     std::string replayFile;
-    std::optional<int> count;
+    PrintedReadings printed;
 };
 
 } // namespace
@@ -36,9 +36,14 @@ void addReadCommand(CLI::App& app, Context& context) {
                          "replay its readings (one R.I. a line, from the top again at the end)")
             ->expected(0, 1)
             ->type_name("[FILE]");
-    command->add_option("--count", options->count, "Stop after N readings (default: at Ctrl-C)")
+    command
+        ->add_option("--count", options->printed.count,
+                     "Stop after N readings (default: at Ctrl-C)")
         ->type_name("N")
         ->check(CLI::Range(1, std::numeric_limits<int>::max()));
+    command->add_flag("--steady", options->printed.steady,
+                      "Print one reading each time the reading settles at a new value (held "
+                      "within 0.001 for a second), not every reading");
 
     command->callback([&context, options, simulate] {
         SysLog log;
@@ -62,8 +67,8 @@ void addReadCommand(CLI::App& app, Context& context) {
         }
 
         const FixedLocale locale = context.locale();
-        switch (
-            printLiveReadings(managers, log, locale, options->count, context.json, *context.out)) {
+        options->printed.json = context.json;
+        switch (printLiveReadings(managers, log, locale, options->printed, *context.out)) {
         case SessionEnd::NoInstrument:
             // Not an alert: the window shows none when Connect finds no instrument, its panel
             // just stays Disconnected. A script still has to learn that no reading will come.

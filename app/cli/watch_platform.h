@@ -2,13 +2,14 @@
 
 // Where velmora-cli's long-running commands, `watch` and `read`, find the devices and learn that
 // they are to end. The defaults are the machine's own: hidapi (with udev on Linux), libusb,
-// QtSerialPort, and Ctrl-C or SIGTERM. Tests put fakes in their place.
+// QtSerialPort, Ctrl-C or SIGTERM, and the machine's clock. Tests put fakes in their place.
 
 #include "app/cli/stop_signal.h"
 #include "device/hid_device_connector.h"
 #include "device/hid_watcher.h"
 #include "device/serial_port_source.h"
 #include "device/usb_watcher.h"
+#include "foundation/posix/event_loop.h"
 
 #include <functional>
 #include <iosfwd>
@@ -30,6 +31,8 @@ struct WatchPlatform {
         instrument;
     // Arranges for stop.request() when the command is to end, for as long as the result lives.
     std::function<std::shared_ptr<void>(StopSignal& stop)> endOn;
+    // The clock `read`'s session runs on.
+    EventLoop::Time sessionTime = EventLoop::Time::real;
 };
 
 WatchPlatform& watchPlatform();

@@ -2,6 +2,7 @@
 
 #include <QMetaObject>
 #include <QTimer>
+#include <chrono>
 
 namespace velmora {
 
@@ -39,6 +40,12 @@ void QtRunLoop::cancel(TimerId id) {
     it->second->stop();
     it->second->deleteLater();
     timers_.erase(it);
+}
+
+// The monotonic clock, as Qt's precise timers.
+std::chrono::milliseconds QtRunLoop::now() const {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
 }
 
 } // namespace velmora

@@ -23,6 +23,7 @@ public:
     void post(Task task) override;
     TimerId scheduleRepeating(std::chrono::milliseconds interval, Task task) override;
     void cancel(TimerId id) override;
+    std::chrono::milliseconds now() const override;
 
 private:
     // What posted tasks are queued on: the loop's own, so posting from another thread reads

@@ -13,7 +13,7 @@ namespace velmora {
 
 // The loop sleeps in poll() on a pipe; post() and stop() write a byte to it to wake the loop. A
 // write to a pipe is one of the few things a signal handler may do.
-EventLoop::EventLoop() {
+EventLoop::EventLoop(Time time) : time_(time) {
     int fds[2];
     if (pipe(fds) != 0) {
         std::perror("velmora: cannot create the event loop");
@@ -43,12 +43,16 @@ void EventLoop::post(Task task) {
 RunLoop::TimerId EventLoop::scheduleRepeating(std::chrono::milliseconds interval, Task task) {
     assert(interval.count() > 0);
     const TimerId id = next_++;
-    timers_.emplace(id, Timer{interval, Clock::now() + interval, std::move(task)});
+    timers_.emplace(id, Timer{interval, clock() + interval, std::move(task)});
     return id;
 }
 
 void EventLoop::cancel(TimerId id) {
     timers_.erase(id);
+}
+
+std::chrono::milliseconds EventLoop::now() const {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(clock().time_since_epoch());
 }
 
 void EventLoop::run() {
@@ -92,7 +96,7 @@ std::map<RunLoop::TimerId, EventLoop::Timer>::iterator EventLoop::earliestTimer(
 }
 
 bool EventLoop::fireOneDueTimer() {
-    const auto now = Clock::now();
+    const auto now = clock();
     const auto earliest = earliestTimer();
     if (earliest == timers_.end() || earliest->second.due > now) {
         return false;
@@ -111,9 +115,14 @@ void EventLoop::waitForWork() {
     int timeoutMs = -1;
     const auto earliest = earliestTimer();
     if (earliest != timers_.end()) {
-        const auto wait =
-            std::chrono::ceil<std::chrono::milliseconds>(earliest->second.due - Clock::now());
-        timeoutMs = static_cast<int>(std::max<std::chrono::milliseconds::rep>(wait.count(), 0));
+        const auto ahead = earliest->second.due - clock();
+        if (time_ == Time::fastForward) {
+            skipped_ += std::max(ahead, Clock::duration::zero());
+            timeoutMs = 0;
+        } else {
+            const auto wait = std::chrono::ceil<std::chrono::milliseconds>(ahead);
+            timeoutMs = static_cast<int>(std::max<std::chrono::milliseconds::rep>(wait.count(), 0));
+        }
     }
     pollfd wakeUp{wakeRead_, POLLIN, 0};
     poll(&wakeUp, 1, timeoutMs);

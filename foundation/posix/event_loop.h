@@ -3,6 +3,10 @@
 // A plain blocking run loop for a program without a GUI toolkit: velmora-cli runs the instrument
 // session on it. run() takes over the calling thread, which becomes the loop's thread, and runs
 // posted tasks and due timers there until stop().
+//
+// Its clock is the machine's steady clock, or one that skips ahead to the next timer whenever
+// nothing is left to do: then a session of minutes on the simulated instrument plays in moments,
+// as the tests run it.
 
 #include "foundation/run_loop.h"
 
@@ -16,7 +20,9 @@ namespace velmora {
 
 class EventLoop final : public RunLoop {
 public:
-    EventLoop();
+    enum class Time { real, fastForward };
+
+    explicit EventLoop(Time time = Time::real);
     ~EventLoop() override;
     EventLoop(const EventLoop&) = delete;
     EventLoop& operator=(const EventLoop&) = delete;
@@ -26,6 +32,7 @@ public:
     // firing them in a burst.
     TimerId scheduleRepeating(std::chrono::milliseconds interval, Task task) override;
     void cancel(TimerId id) override;
+    std::chrono::milliseconds now() const override;
 
     // Returns once stop() was called, after the task or timer in hand; at once if stop() came
     // before. Work still queued stays for the next run().
@@ -45,12 +52,15 @@ private:
         Task task;
     };
 
+    Clock::time_point clock() const { return Clock::now() + skipped_; }
     std::map<TimerId, Timer>::iterator earliestTimer();
     bool runOneTask();
     bool fireOneDueTimer();
     void waitForWork();
     void wake();
 
+    const Time time_;
+    Clock::duration skipped_{}; // how far a fast-forward clock is ahead of the steady clock
     int wakeRead_ = -1;
     int wakeWrite_ = -1;
     std::atomic<bool> stopRequested_{false};

@@ -4,7 +4,9 @@
 #include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <regex>
+#include <sstream>
 
 namespace velmora::test {
 namespace {
@@ -34,6 +36,53 @@ TEST(ReadCommand, ReplaysAFileFromTheTopAgainAndRefusesOneItCannotReplay) {
     EXPECT_EQ(bad.out, "");
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "0"}).status, 2);
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "many"}).status, 2);
+}
+
+// A quartz measured twice: placed, settling near 1.544 with the last digit flickering, lifted
+// (0.000), turned and placed again, settling near 1.553. Played from the top again after.
+std::string quartzReplay() {
+    std::string text = "1.501\n1.522\n1.536\n1.541\n1.543\n";
+    for (int i = 0; i < 15; ++i) {
+        text += i % 3 == 1 ? "1.545\n" : "1.544\n";
+    }
+    text += "0.000\n0.000\n0.000\n1.520\n1.547\n1.551\n";
+    for (int i = 0; i < 15; ++i) {
+        text += i % 4 == 2 ? "1.552\n" : "1.553\n";
+    }
+    return text + "0.000\n";
+}
+
+TEST(ReadCommand, SteadyPrintsOneLineEachTimeTheReadingSettles) {
+    FakeWatchPlatform platform;
+    platform.fastForward();
+    TempDir dir;
+    const std::string replay = "--simulate=" + dir.write("quartz.txt", quartzReplay()).string();
+
+    const auto r = runCli({"read", "--steady", replay, "--count", "2", "--decimal-separator", ","});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(r.out, "1,544\n1,553\n");
+    EXPECT_EQ(r.err, "");
+
+    const auto json = runCli({"read", "--steady", replay, "--count", "3", "--json"});
+    EXPECT_EQ(json.status, 0) << json.err;
+    std::istringstream lines(json.out);
+    std::vector<nlohmann::json> steady;
+    for (std::string line; std::getline(lines, line);) {
+        steady.push_back(nlohmann::json::parse(line));
+    }
+    ASSERT_EQ(steady.size(), 3u) << json.out;
+    // The third is the replay's first stone again, as a new stone: each line a new value or a
+    // new stone, never the flicker.
+    const char* readings[] = {"1.544", "1.553", "1.544"};
+    const double spreads[] = {0.002, 0.001, 0.002};
+    // A reading every 0.1 s from 0.1 s after Connect; steady a second after the edge came within
+    // the band.
+    const double times[] = {1.5, 3.7, 5.7};
+    for (std::size_t i = 0; i < steady.size(); ++i) {
+        EXPECT_EQ(steady[i]["reading"], readings[i]) << i;
+        EXPECT_DOUBLE_EQ(steady[i]["spread"].get<double>(), spreads[i]) << i;
+        EXPECT_NEAR(steady[i]["time"].get<double>(), times[i], 0.05) << i;
+    }
 }
 
 // The instrument on a fake bus answers each request with 1.540, and at the request numbered

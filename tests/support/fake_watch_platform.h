@@ -62,6 +62,10 @@ public:
         };
     }
 
+    // `read`'s session skips ahead to the next request whenever nothing is left to do: seconds of
+    // readings play in moments.
+    void fastForward() { cli::watchPlatform().sessionTime = EventLoop::Time::fastForward; }
+
     // Ctrl-C and SIGTERM end the command, as they do outside the tests.
     void keepRealInterrupts() { cli::watchPlatform().endOn = saved_.endOn; }
 

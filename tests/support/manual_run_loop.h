@@ -38,6 +38,7 @@ public:
         return next_++;
     }
     void cancel(TimerId id) override { timers_.erase(id); }
+    std::chrono::milliseconds now() const override { return now_; }
 
     // Runs queued tasks until none is left.
     void runPending() {

@@ -1,0 +1,135 @@
+#include "device/steadiness.h"
+#include "tests/device/reading_stream.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::DoubleNear;
+using ::testing::ElementsAre;
+using State = SteadinessState;
+
+class SteadinessTest : public ::testing::Test {
+protected:
+    void SetUp() override { watch(steadiness); }
+
+    void watch(Steadiness& s) {
+        s.onStateChange([this](State state) { states.push_back(state); });
+        s.onSteadyReading([this](const SteadyReading& r) { readings.push_back(r); });
+    }
+    std::vector<int> values() const {
+        std::vector<int> thousandths;
+        for (const auto& r : readings) {
+            thousandths.push_back(static_cast<int>(std::lround(r.value * 1000)));
+        }
+        return thousandths;
+    }
+
+    Steadiness steadiness;
+    ReadingStream stream;
+    std::vector<State> states;
+    std::vector<SteadyReading> readings;
+};
+
+TEST_F(SteadinessTest, ASettlingStreamGivesExactlyOneSteadyReadingOnceASecondHeldStill) {
+    EXPECT_EQ(steadiness.state(), State::noStone);
+    stream.play(steadiness, settleOn(1544) + hold(1544, 50));
+    ASSERT_EQ(readings.size(), 1u);
+    EXPECT_DOUBLE_EQ(readings[0].value, 1.544);
+    // 1.543 at 0.4 s is the first reading within the band, 1.4 s closes its second.
+    EXPECT_EQ(readings[0].time, 1400ms);
+    EXPECT_THAT(readings[0].spread, DoubleNear(0.001, 1e-12));
+    EXPECT_THAT(states, ElementsAre(State::settling, State::steady));
+    ASSERT_TRUE(steadiness.current());
+    EXPECT_DOUBLE_EQ(steadiness.current()->value, 1.544);
+    EXPECT_DOUBLE_EQ(steadiness.current()->spread, 0);
+}
+
+TEST_F(SteadinessTest, NoiseWithinTheBandGivesNoFurtherReading) {
+    // The instrument's last digit flickering, for a minute.
+    const int flicker[] = {1, 0, -1, 0, 0, 1, -1, 1, 0, -1, -1, 0, 1};
+    Thousandths noisy;
+    for (int i = 0; i < 600; ++i) {
+        noisy.push_back(1544 + flicker[i % std::size(flicker)]);
+    }
+    stream.play(steadiness, settleOn(1544) + noisy);
+    EXPECT_THAT(values(), ElementsAre(1544));
+    EXPECT_EQ(steadiness.state(), State::steady);
+}
+
+TEST_F(SteadinessTest, TurningTheStoneGivesANewReadingOnlyWhenItMovedBeyondTheBand) {
+    struct Case {
+        int turnedTo;
+        std::vector<int> expected;
+    };
+    for (const auto& c : {Case{1549, {1544, 1549}}, Case{1546, {1544, 1546}}, Case{1545, {1544}},
+                          Case{1539, {1544, 1539}}}) {
+        Steadiness s;
+        watch(s);
+        readings.clear();
+        // Turning: the edge wanders while the stone moves, then holds at its new place.
+        stream.play(s, settleOn(1544) + Thousandths{1551, 1537, 1547} + hold(c.turnedTo, 20));
+        EXPECT_EQ(values(), c.expected) << c.turnedTo;
+    }
+}
+
+TEST_F(SteadinessTest, AWaverThatComesBackSettlesAgainWithoutANewReading) {
+    stream.play(steadiness, settleOn(1544) + Thousandths{1550, 1538} + hold(1544, 20));
+    EXPECT_THAT(values(), ElementsAre(1544));
+    EXPECT_THAT(states,
+                ElementsAre(State::settling, State::steady, State::settling, State::steady));
+}
+
+TEST_F(SteadinessTest, AReadingThatCreepsAwayGivesANewOneOnceBeyondTheBand) {
+    // Each second on its own is steady; the warming liquid moves the edge a thousandth a second.
+    stream.play(steadiness, settleOn(1544) + hold(1545, 10) + hold(1546, 10) + hold(1547, 10));
+    EXPECT_THAT(values(), ElementsAre(1544, 1546));
+    EXPECT_THAT(states, ElementsAre(State::settling, State::steady));
+}
+
+TEST_F(SteadinessTest, ALiftEndsTheStoneAndTheSameStonePutBackIsReadAgain) {
+    stream.play(steadiness, settleOn(1544) + hold(0, 5));
+    EXPECT_EQ(steadiness.state(), State::noStone);
+    EXPECT_FALSE(steadiness.current());
+    stream.play(steadiness, settleOn(1544));
+    EXPECT_THAT(values(), ElementsAre(1544, 1544));
+    EXPECT_THAT(states, ElementsAre(State::settling, State::steady, State::noStone, State::settling,
+                                    State::steady));
+    // Below the lowest gem, no edge: as good as no stone.
+    stream.play(steadiness, Thousandths{1299});
+    EXPECT_EQ(steadiness.state(), State::noStone);
+}
+
+TEST_F(SteadinessTest, TheWindowAndTheBandAreSettings) {
+    struct Case {
+        SteadinessSettings settings;
+        std::vector<std::chrono::milliseconds> times;
+    };
+    const Thousandths wobbly =
+        Thousandths{1500} + hold(1544, 5) + Thousandths{1546, 1542, 1544, 1545} + hold(1546, 5);
+    for (const auto& c : {Case{{}, {}}, Case{{.window = 500ms, .band = 0.002}, {600ms}},
+                          Case{{.window = 2s, .band = 0.002}, {}}}) {
+        Steadiness s(c.settings);
+        watch(s);
+        readings.clear();
+        ReadingStream fromZero;
+        fromZero.play(s, wobbly);
+        std::vector<std::chrono::milliseconds> times;
+        for (const auto& r : readings) {
+            times.push_back(r.time);
+        }
+        EXPECT_EQ(times, c.times) << c.settings.window.count();
+    }
+}
+
+TEST_F(SteadinessTest, AReadingOlderThanTheLastIsIgnored) {
+    stream.play(steadiness, settleOn(1544));
+    steadiness.add(stream.now - 1s, 0);
+    EXPECT_EQ(steadiness.state(), State::steady);
+}
+
+} // namespace
+} // namespace velmora::test
