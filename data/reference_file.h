@@ -6,6 +6,7 @@
 
 #include "data/stones.h"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -15,5 +16,15 @@ namespace velmora {
 // ascending order of StoneName (scalar values after normalization, case-sensitive); equal names
 // keep their file order.
 std::vector<Stones> parseReferenceText(std::string_view text);
+
+struct ReferenceTable {
+    std::vector<Stones> stones; // the reference set, as parseReferenceText gives it
+    std::size_t rows = 0;       // lines after the header that cut into 28 cells, whatever their NEW
+    bool headerAlone = false;   // a 28-cell header line and nothing after it but empty lines
+};
+
+// The reference set and what the text held besides, to tell a table with no stone marked for
+// inclusion from a file that is no table at all.
+ReferenceTable parseReferenceTable(std::string_view text);
 
 } // namespace velmora
