@@ -19,13 +19,11 @@ using CellEnds = std::array<std::size_t, Stones::fieldCount>;
 std::optional<CellEnds> cutCells(std::string_view line) {
     CellEnds ends{};
     std::size_t cell = 0;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == ',') {
-            if (cell == Stones::fieldCount - 1) {
-                return std::nullopt; // a 29th cell
-            }
-            ends[cell++] = i;
+    for (std::size_t i = line.find(','); i != std::string_view::npos; i = line.find(',', i + 1)) {
+        if (cell == Stones::fieldCount - 1) {
+            return std::nullopt; // a 29th cell
         }
+        ends[cell++] = i;
     }
     if (cell != Stones::fieldCount - 1) {
         return std::nullopt;
@@ -79,6 +77,12 @@ ReferenceTable parseReferenceTable(std::string_view text) {
     bool headerIsARow = false;
     bool onlyHeader = true;
     text::forEachLine(text, [&](std::string_view original) {
+        if (original.empty() && !header) {
+            return; // the empty line between CR and LF, at the very least
+        }
+        if (table.tooManyStones) {
+            return;
+        }
         std::string_view line = withoutQuotes(original, scratch);
         const auto ends = cutCells(line);
         if (header) {
@@ -94,6 +98,10 @@ ReferenceTable parseReferenceTable(std::string_view text) {
         if (cell(line, *ends, newColumn) != "1") {
             return;
         }
+        if (rows.size() == referenceStoneLimit) {
+            table.tooManyStones = true;
+            return;
+        }
         if (line.data() == scratch.data()) {
             line = storage.emplace_back(scratch);
         }
@@ -107,6 +115,9 @@ ReferenceTable parseReferenceTable(std::string_view text) {
         rows.push_back({key, line});
     });
     table.headerAlone = headerIsARow && onlyHeader;
+    if (table.tooManyStones) {
+        return table;
+    }
     if (!inOrder) {
         std::stable_sort(rows.begin(), rows.end(),
                          [](const Row& a, const Row& b) { return a.key < b.key; });

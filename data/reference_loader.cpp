@@ -50,6 +50,11 @@ ReferenceLoad loadReferenceSet(const std::optional<std::filesystem::path>& path,
         }
         table = parseReferenceTable(*read.text);
     }
+    if (table.tooManyStones) {
+        out << "The reference file " << quoted(*path) << " could not be read: it holds more than "
+            << referenceStoneLimit << " stones, the most a reference table may hold" << std::endl;
+        return {};
+    }
     if (table.rows == 0 && !table.headerAlone) {
         load.holdsNoStone = "The reference file " + quoted(*path) +
                             " holds no stone: no line after the first has the 28 "

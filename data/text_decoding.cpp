@@ -51,7 +51,7 @@ DecodedText convert(std::string_view bytes, const char* encoding) {
         char* target = piece.data();
         ucnv_convertEx(to.get(), from.get(), &target, piece.data() + piece.size(), &source,
                        sourceLimit, pivot.data(), &pivotSource, &pivotTarget,
-                       pivot.data() + pivot.size(), reset, true, &status);
+                       pivot.data() + pivot.size(), static_cast<UBool>(reset), UBool{1}, &status);
         reset = false;
         out.append(piece.data(), static_cast<std::size_t>(target - piece.data()));
     } while (status == U_BUFFER_OVERFLOW_ERROR);

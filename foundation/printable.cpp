@@ -54,10 +54,7 @@ std::size_t appendPrintable(std::string& out, std::string_view s, std::size_t ma
     for (std::size_t n = 0; i < s.size() && n < maxCharacters; ++n) {
         const std::size_t length = sequenceLength(s.substr(i));
         const auto byte = static_cast<std::uint8_t>(s[i]);
-        if (length == 0) {
-            appendHex(out, "\\x%02X", byte);
-            ++i;
-        } else if (byte < 0x20 || byte == 0x7F) {
+        if (length == 0 || byte < 0x20 || byte == 0x7F) {
             appendHex(out, "\\x%02X", byte);
             ++i;
         } else if (byte == 0xC2 && static_cast<std::uint8_t>(s[i + 1]) < 0xA0) {

@@ -1,3 +1,4 @@
+#include "data/reference_file.h"
 #include "data/reference_loader.h"
 #include "tests/support/reference_rows.h"
 #include "tests/support/temp_dir.h"
@@ -66,9 +67,15 @@ TEST(LoadReferenceSet, RefusesWhatIsNoTableOfAReasonableSize) {
     test::TempDir dir;
     const auto sparse = dir.write("sparse.csv", "");
     std::filesystem::resize_file(sparse, referenceFileLimit + 1);
+    // Small rows in a small file would each still take a record of 28 texts.
+    std::string manyStones = std::string(referenceHeader) + "\n";
+    for (std::size_t i = 0; i <= referenceStoneLimit; ++i) {
+        manyStones += ",,,,,,,,,,,,,,,,1,,,,,,,,,,,\n";
+    }
     const std::pair<std::filesystem::path, std::string> refused[] = {
         {"/dev/zero", "a device, a pipe or a socket"},
         {sparse, "larger than 64 MiB, the most a reference table may hold"},
+        {dir.write("many.csv", manyStones), "more than 200000 stones"},
     };
     for (const auto& [path, reason] : refused) {
         Lists lists;
