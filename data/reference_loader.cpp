@@ -14,12 +14,15 @@ std::string quoted(const std::filesystem::path& path) {
     return "\"" + text::printable(path.string()) + "\"";
 }
 
+std::string cannotRead(const std::filesystem::path& path, const std::string& why) {
+    return "The reference file " + quoted(path) + " could not be read: " + why;
+}
+
 } // namespace
 
 ReadText readTextFile(const std::filesystem::path& path) {
     const auto failure = [&path](const std::string& why) {
-        return ReadText{std::nullopt,
-                        "The reference file " + quoted(path) + " could not be read: " + why};
+        return ReadText{std::nullopt, cannotRead(path, why)};
     };
     FileBytes file = readRegularFile(path, referenceFileLimit, "reference table");
     if (!file.bytes) {
@@ -51,8 +54,9 @@ ReferenceLoad loadReferenceSet(const std::optional<std::filesystem::path>& path,
         table = parseReferenceTable(*read.text);
     }
     if (table.tooManyStones) {
-        out << "The reference file " << quoted(*path) << " could not be read: it holds more than "
-            << referenceStoneLimit << " stones, the most a reference table may hold" << std::endl;
+        out << cannotRead(*path, "it holds more than " + std::to_string(referenceStoneLimit) +
+                                     " stones, the most a reference table may hold")
+            << std::endl;
         return {};
     }
     if (table.rows == 0 && !table.headerAlone) {
