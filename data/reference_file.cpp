@@ -19,13 +19,11 @@ using CellEnds = std::array<std::size_t, Stones::fieldCount>;
 std::optional<CellEnds> cutCells(std::string_view line) {
     CellEnds ends{};
     std::size_t cell = 0;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == ',') {
-            if (cell == Stones::fieldCount - 1) {
-                return std::nullopt; // a 29th cell
-            }
-            ends[cell++] = i;
+    for (std::size_t i = line.find(','); i != std::string_view::npos; i = line.find(',', i + 1)) {
+        if (cell == Stones::fieldCount - 1) {
+            return std::nullopt; // a 29th cell
         }
+        ends[cell++] = i;
     }
     if (cell != Stones::fieldCount - 1) {
         return std::nullopt;
@@ -61,25 +59,48 @@ constexpr std::size_t newColumn = Stones::columnOf(&Stones::NEW);
 
 } // namespace
 
-std::vector<Stones> parseReferenceText(std::string_view text) {
+ReferenceTable parseReferenceTable(std::string_view text) {
     // The rows are chosen and put in name order as views into the text first, then built in their
     // final place: no record is built for a row that is dropped, and none is moved by the sort.
+    // Cells are cut again when a record is built rather than remembered, which would take more
+    // memory than the text itself.
     struct Row {
         std::string_view key; // the name in normal form
         std::string_view line;
-        std::size_t ends; // index into cellEnds
     };
-    std::vector<CellEnds> cellEnds;
     std::deque<std::string> storage; // unquoted lines and normalized names the views point into
     std::vector<Row> rows;
     std::string scratch;
     bool inOrder = true;
-    const auto lines = text::splitLines(text);
-    for (std::size_t i = 1; i < lines.size(); ++i) {
-        std::string_view line = withoutQuotes(lines[i], scratch);
+    ReferenceTable table;
+    bool header = true;
+    bool headerIsARow = false;
+    bool onlyHeader = true;
+    text::forEachLine(text, [&](std::string_view original) {
+        if (original.empty() && !header) {
+            return; // the empty line between CR and LF, at the very least
+        }
+        if (table.tooManyStones) {
+            return;
+        }
+        std::string_view line = withoutQuotes(original, scratch);
         const auto ends = cutCells(line);
-        if (!ends || cell(line, *ends, newColumn) != "1") {
-            continue;
+        if (header) {
+            header = false;
+            headerIsARow = ends.has_value();
+            return;
+        }
+        onlyHeader = onlyHeader && line.empty();
+        if (!ends) {
+            return;
+        }
+        ++table.rows;
+        if (cell(line, *ends, newColumn) != "1") {
+            return;
+        }
+        if (rows.size() == referenceStoneLimit) {
+            table.tooManyStones = true;
+            return;
         }
         if (line.data() == scratch.data()) {
             line = storage.emplace_back(scratch);
@@ -91,18 +112,25 @@ std::vector<Stones> parseReferenceText(std::string_view text) {
             }
         }
         inOrder = inOrder && (rows.empty() || !(key < rows.back().key));
-        rows.push_back({key, line, cellEnds.size()});
-        cellEnds.push_back(*ends);
+        rows.push_back({key, line});
+    });
+    table.headerAlone = headerIsARow && onlyHeader;
+    if (table.tooManyStones) {
+        return table;
     }
     if (!inOrder) {
         std::stable_sort(rows.begin(), rows.end(),
                          [](const Row& a, const Row& b) { return a.key < b.key; });
     }
-    std::vector<Stones> stones(rows.size());
+    table.stones.resize(rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        fillFields(rows[i].line, cellEnds[rows[i].ends], stones[i]);
+        fillFields(rows[i].line, *cutCells(rows[i].line), table.stones[i]);
     }
-    return stones;
+    return table;
+}
+
+std::vector<Stones> parseReferenceText(std::string_view text) {
+    return parseReferenceTable(text).stones;
 }
 
 } // namespace velmora

@@ -6,6 +6,7 @@
 
 #include "data/stones.h"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -15,5 +16,21 @@ namespace velmora {
 // ascending order of StoneName (scalar values after normalization, case-sensitive); equal names
 // keep their file order.
 std::vector<Stones> parseReferenceText(std::string_view text);
+
+// The most stones a reference table may hold: some hundreds of times the shipped table. Each
+// stone takes a record of 28 texts whatever its cells hold, so it is the count of stones, more
+// than the file's size, that bounds the memory a table takes.
+inline constexpr std::size_t referenceStoneLimit = 200000;
+
+struct ReferenceTable {
+    std::vector<Stones> stones; // the reference set, as parseReferenceText gives it
+    std::size_t rows = 0;       // lines after the header that cut into 28 cells, whatever their NEW
+    bool headerAlone = false;   // a 28-cell header line and nothing after it but empty lines
+    bool tooManyStones = false; // more than referenceStoneLimit: stones stays empty
+};
+
+// The reference set and what the text held besides, to tell a table with no stone marked for
+// inclusion from a file that is no table at all.
+ReferenceTable parseReferenceTable(std::string_view text);
 
 } // namespace velmora

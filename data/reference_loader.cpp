@@ -3,68 +3,70 @@
 #include "data/reference_file.h"
 #include "data/text_decoding.h"
 #include "foundation/bundle.h"
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
+#include "foundation/printable.h"
+#include "foundation/regular_file.h"
 
 namespace velmora {
 
+namespace {
+
+std::string quoted(const std::filesystem::path& path) {
+    return "\"" + text::printable(path.string()) + "\"";
+}
+
+std::string cannotRead(const std::filesystem::path& path, const std::string& why) {
+    return "The reference file " + quoted(path) + " could not be read: " + why;
+}
+
+} // namespace
+
 ReadText readTextFile(const std::filesystem::path& path) {
     const auto failure = [&path](const std::string& why) {
-        return ReadText{std::nullopt,
-                        "The reference file \"" + path.string() + "\" could not be read: " + why};
+        return ReadText{std::nullopt, cannotRead(path, why)};
     };
-    std::error_code ec;
-    if (std::filesystem::is_directory(path, ec)) {
-        return failure("it is a folder");
+    FileBytes file = readRegularFile(path, referenceFileLimit, "reference table");
+    if (!file.bytes) {
+        return failure(file.error);
     }
-    std::unique_ptr<std::FILE, decltype(&std::fclose)> file(std::fopen(path.c_str(), "rb"),
-                                                            &std::fclose);
-    if (!file) {
-        return failure(std::strerror(errno));
-    }
-    // Read in one piece: sized from the file, and grown for a file that grows while being read.
-    const auto expected = std::filesystem::file_size(path, ec);
-    std::string bytes(ec ? 0 : expected, '\0');
-    std::size_t size = 0;
-    for (;;) {
-        if (size == bytes.size()) {
-            bytes.resize(bytes.size() + (1 << 16));
-        }
-        const std::size_t n = std::fread(bytes.data() + size, 1, bytes.size() - size, file.get());
-        size += n;
-        if (n == 0) {
-            break;
-        }
-    }
-    if (std::ferror(file.get())) {
-        return failure(std::strerror(errno));
-    }
-    bytes.resize(size);
-    DecodedText decoded = decodeText(std::move(bytes));
+    DecodedText decoded = decodeText(std::move(*file.bytes));
     if (!decoded.text) {
         return failure(decoded.error);
     }
     return {std::move(decoded.text), {}};
 }
 
-bool loadReferenceSet(const std::optional<std::filesystem::path>& path, std::ostream& out,
-                      StoneList& arr_stones, StoneList& arr_stonesGlobal) {
+ReferenceLoad loadReferenceSet(const std::optional<std::filesystem::path>& path, std::ostream& out,
+                               StoneList& arr_stones, StoneList& arr_stonesGlobal) {
     if (!path) {
         out << "The reference file " << referenceResourceName << '.' << referenceResourceType
             << " is not among the application's resources" << std::endl;
-        return false;
+        return {};
     }
-    const ReadText read = readTextFile(*path);
-    if (!read.text) {
-        out << read.error << std::endl;
-        return false;
+    ReferenceLoad load{true, {}};
+    ReferenceTable table;
+    {
+        // The text goes as soon as the records are made.
+        const ReadText read = readTextFile(*path);
+        if (!read.text) {
+            out << read.error << std::endl;
+            return {};
+        }
+        table = parseReferenceTable(*read.text);
     }
-    arr_stones = StoneList(parseReferenceText(*read.text));
+    if (table.tooManyStones) {
+        out << cannotRead(*path, "it holds more than " + std::to_string(referenceStoneLimit) +
+                                     " stones, the most a reference table may hold")
+            << std::endl;
+        return {};
+    }
+    if (table.rows == 0 && !table.headerAlone) {
+        load.holdsNoStone = "The reference file " + quoted(*path) +
+                            " holds no stone: no line after the first has the 28 "
+                            "comma-separated columns of a reference table";
+    }
+    arr_stones = StoneList(std::move(table.stones));
     arr_stonesGlobal = arr_stones;
-    return true;
+    return load;
 }
 
 std::optional<std::filesystem::path> referenceFilePath(const Bundle& bundle) {

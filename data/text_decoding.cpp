@@ -1,11 +1,12 @@
 #include "data/text_decoding.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <memory>
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
-#include <unicode/unistr.h>
 #include <unicode/utf8.h>
 
 namespace velmora {
@@ -26,27 +27,37 @@ constexpr Bom boms[] = {
 };
 
 DecodedText convert(std::string_view bytes, const char* encoding) {
+    using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(ucnv_open(encoding, &status),
-                                                                 ucnv_close);
+    Converter from(ucnv_open(encoding, &status), ucnv_close);
+    Converter to(ucnv_open("UTF-8", &status), ucnv_close);
     // A broken sequence is a broken file, not something to paper over with replacement marks.
-    ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
-                        &status);
+    ucnv_setToUCallBack(from.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
     if (U_FAILURE(status)) {
         return {std::nullopt, std::string("No converter for ") + encoding};
     }
-    // None of the encodings used here gives more UTF-16 units than it has bytes.
-    const auto capacity = static_cast<int32_t>(bytes.size()) + 1;
-    icu::UnicodeString decoded;
-    UChar* buffer = decoded.getBuffer(capacity);
-    const int32_t length = ucnv_toUChars(converter.get(), buffer, capacity, bytes.data(),
-                                         static_cast<int32_t>(bytes.size()), &status);
-    decoded.releaseBuffer(U_SUCCESS(status) ? length : 0);
+    // Converted piece by piece through pointers, so no length is ever narrowed to ICU's 32 bits.
+    std::string out;
+    out.reserve(bytes.size());
+    const char* source = bytes.data();
+    const char* const sourceLimit = source + bytes.size();
+    std::array<UChar, 1024> pivot;
+    UChar* pivotSource = pivot.data();
+    UChar* pivotTarget = pivot.data();
+    std::array<char, 1 << 16> piece;
+    bool reset = true;
+    do {
+        status = U_ZERO_ERROR;
+        char* target = piece.data();
+        ucnv_convertEx(to.get(), from.get(), &target, piece.data() + piece.size(), &source,
+                       sourceLimit, pivot.data(), &pivotSource, &pivotTarget,
+                       pivot.data() + pivot.size(), static_cast<UBool>(reset), UBool{1}, &status);
+        reset = false;
+        out.append(piece.data(), static_cast<std::size_t>(target - piece.data()));
+    } while (status == U_BUFFER_OVERFLOW_ERROR);
     if (U_FAILURE(status)) {
         return {std::nullopt, std::string("the text is not valid ") + encoding};
     }
-    std::string out;
-    decoded.toUTF8String(out);
     return {std::move(out), {}};
 }
 
@@ -54,11 +65,11 @@ DecodedText convert(std::string_view bytes, const char* encoding) {
 
 bool isValidUtf8(std::string_view bytes) {
     const auto* s = reinterpret_cast<const uint8_t*>(bytes.data());
-    const auto length = static_cast<int32_t>(bytes.size());
-    int32_t i = 0;
+    const std::size_t length = bytes.size();
+    std::size_t i = 0;
     while (i < length) {
         // Plain ASCII, the bulk of the reference file, eight bytes at a time.
-        if (i + 8 <= length) {
+        if (length - i >= 8) {
             uint64_t chunk;
             std::memcpy(&chunk, s + i, 8);
             if ((chunk & 0x8080808080808080ULL) == 0) {
@@ -66,11 +77,16 @@ bool isValidUtf8(std::string_view bytes) {
                 continue;
             }
         }
+        // One character at a time through a window of at most four bytes, the longest sequence,
+        // so that ICU's 32-bit offsets stay small however long the text.
+        const auto window = static_cast<int32_t>(std::min<std::size_t>(length - i, 4));
+        int32_t used = 0;
         UChar32 c;
-        U8_NEXT(s, i, length, c);
+        U8_NEXT(s + i, used, window, c);
         if (c < 0) {
             return false;
         }
+        i += static_cast<std::size_t>(used);
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "device/hid_report_descriptor.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <vector>
 
@@ -24,6 +25,17 @@ struct GlobalState {
     std::uint64_t reportCount = 0;
     std::uint32_t reportId = 0;
 };
+
+constexpr std::uint64_t saturated = std::numeric_limits<std::uint64_t>::max();
+
+// a + b * c, or saturated when that does not fit 64 bits.
+std::uint64_t addProduct(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
+    if (b != 0 && c > saturated / b) {
+        return saturated;
+    }
+    const std::uint64_t product = b * c;
+    return product > saturated - a ? saturated : a + product;
+}
 
 std::uint32_t littleEndian(std::span<const std::uint8_t> data) {
     std::uint32_t value = 0;
@@ -58,7 +70,8 @@ std::optional<std::int64_t> maxInputReportSize(std::span<const std::uint8_t> des
         const unsigned type = (prefix >> 2) & 0x3;
         const unsigned tag = prefix >> 4;
         if (type == mainItem && tag == inputTag) {
-            inputBits[state.reportId] += state.reportSize * state.reportCount;
+            auto& bits = inputBits[state.reportId];
+            bits = addProduct(bits, state.reportSize, state.reportCount);
         } else if (type == globalItem) {
             switch (tag) {
             case reportSizeTag:
@@ -91,7 +104,10 @@ std::optional<std::int64_t> maxInputReportSize(std::span<const std::uint8_t> des
     }
     std::uint64_t longest = 0;
     for (const auto& [id, bits] : inputBits) {
-        longest = std::max(longest, (bits + 7) / 8);
+        if (bits == saturated) {
+            return std::numeric_limits<std::int64_t>::max();
+        }
+        longest = std::max(longest, bits / 8 + (bits % 8 != 0));
     }
     return static_cast<std::int64_t>(longest == 0 ? 0 : longest + (numbered ? 1 : 0));
 }

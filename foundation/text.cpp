@@ -88,6 +88,11 @@ bool contains(std::string_view haystack, std::string_view needle) {
 
 std::vector<std::string_view> splitLines(std::string_view s) {
     std::vector<std::string_view> lines;
+    forEachLine(s, [&lines](std::string_view line) { lines.push_back(line); });
+    return lines;
+}
+
+void forEachLine(std::string_view s, const std::function<void(std::string_view)>& line) {
     const auto* data = reinterpret_cast<const unsigned char*>(s.data());
     const std::size_t n = s.size();
     std::size_t start = 0;
@@ -128,12 +133,11 @@ std::vector<std::string_view> splitLines(std::string_view s) {
             ++i;
             continue;
         }
-        lines.push_back(s.substr(start, i - start));
+        line(s.substr(start, i - start));
         i += width;
         start = i;
     }
-    lines.push_back(s.substr(start));
-    return lines;
+    line(s.substr(start));
 }
 
 std::string replaceAll(std::string_view s, std::string_view from, std::string_view to) {

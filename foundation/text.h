@@ -5,6 +5,7 @@
 // mapping. Every comparison of names, colours and searches goes through here so that "é" typed
 // precomposed and "é" stored decomposed are the same text everywhere.
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,9 @@ bool contains(std::string_view haystack, std::string_view needle);
 // LINE SEPARATOR (U+2028) and PARAGRAPH SEPARATOR (U+2029). "a\r\nb" gives "a", "", "b"; a
 // trailing newline gives an empty last line. The views point into the given text.
 std::vector<std::string_view> splitLines(std::string_view s);
+
+// The lines splitLines gives, handed one at a time to line without collecting them.
+void forEachLine(std::string_view s, const std::function<void(std::string_view)>& line);
 
 // Replaces every occurrence of from (non-empty) by to.
 std::string replaceAll(std::string_view s, std::string_view from, std::string_view to);

@@ -20,6 +20,14 @@ FixedLocale Context::locale() const {
     return decimalSeparator ? FixedLocale(*decimalSeparator) : environmentLocale();
 }
 
+bool reportedNoStone(const Context& context, const ReferenceLoad& load) {
+    if (load.holdsNoStone.empty()) {
+        return false;
+    }
+    *context.err << load.holdsNoStone << '\n';
+    return true;
+}
+
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
     Context context;
     context.out = &out;

@@ -17,6 +17,10 @@ namespace CLI {
 class App;
 }
 
+namespace velmora {
+struct ReferenceLoad;
+}
+
 namespace velmora::cli {
 
 inline constexpr int exitSuccess = 0;
@@ -37,6 +41,9 @@ struct Context {
     // The number conventions given with --decimal-separator, else the environment's.
     FixedLocale locale() const;
 };
+
+// Says on standard error that the reference file held no stone, if so; true when it did.
+bool reportedNoStone(const Context& context, const ReferenceLoad& load);
 
 // Each command adds itself to the app; its callback sets context.exitCode.
 void addStonesCommand(CLI::App& app, Context& context);

@@ -27,7 +27,8 @@ std::vector<std::string> colorNames() {
 }
 
 // The dictionary tab worked by hand: tick the boxes asked for, type each value and leave its
-// entry (so it is checked as typed text is), pick the colour, press Search. The first alert
+// entry (so it is checked as typed text is; an empty value is typed as nothing at all), pick the
+// colour, press Search. The first alert
 // ends the command.
 int identify(const Context& context, const IdentifyOptions& options) {
     HeadlessWindow headless(context);
@@ -49,12 +50,14 @@ int identify(const Context& context, const IdentifyOptions& options) {
         if (!entry.value) {
             continue;
         }
-        const bool entered =
-            headless.perform([&] { entry.box.performClick(); }) && headless.perform([&] {
-                w.makeFirstResponder(&entry.entry);
-                w.insertText(*entry.value);
-                w.makeFirstResponder(nullptr);
-            });
+        // An empty value ticks the box and types nothing, so the search's own check for an
+        // empty entry speaks rather than the check of typed text.
+        const bool entered = headless.perform([&] { entry.box.performClick(); }) &&
+                             (entry.value->empty() || headless.perform([&] {
+                                 w.makeFirstResponder(&entry.entry);
+                                 w.insertText(*entry.value);
+                                 w.makeFirstResponder(nullptr);
+                             }));
         if (!entered) {
             return exitAlert;
         }

@@ -1,5 +1,7 @@
 #include "app/cli/output.h"
 
+#include "foundation/printable.h"
+
 #include <nlohmann/json.hpp>
 #include <ostream>
 
@@ -18,7 +20,8 @@ void printRecord(std::ostream& out, bool json, const Fields& fields) {
     }
     bool first = true;
     for (const auto& field : fields) {
-        out << (first ? "" : "\t") << field.second;
+        // A name from the reference file must not reach the terminal as a control sequence.
+        out << (first ? "" : "\t") << text::printable(field.second);
         first = false;
     }
     out << '\n';

@@ -1,6 +1,7 @@
 #pragma once
 
-// One printed record: its fields joined by TAB in text mode, an object in JSON mode.
+// One printed record: its fields joined by TAB in text mode, each with its control characters
+// written out, an object in JSON mode.
 
 #include <iosfwd>
 #include <string>

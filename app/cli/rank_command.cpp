@@ -3,6 +3,7 @@
 #include "data/reference_loader.h"
 #include "foundation/c_number.h"
 #include "foundation/locale.h"
+#include "foundation/printable.h"
 #include "foundation/text.h"
 #include "search/deviation_text.h"
 #include "search/hydrostatic.h"
@@ -135,8 +136,8 @@ void print(const Context& context, const Ranking& ranking, const RankingInputs& 
         const std::string deviations =
             deviationText(lead, in.overTheLimit, !ranking.anyWithinTolerance, sep);
         if (!context.json) {
-            *context.out << number << '\t' << name << '\t' << lead.fit << "%\t" << deviations
-                         << '\n';
+            *context.out << text::printable(number) << '\t' << text::printable(name) << '\t'
+                         << lead.fit << "%\t" << deviations << '\n';
             continue;
         }
         nlohmann::ordered_json line = {
@@ -177,7 +178,9 @@ int rank(const Context& context, const RankOptions& options) {
     }
     StoneList arr_stones;
     StoneList arr_stonesGlobal;
-    if (!loadReferenceSet(context.referencePath(), *context.err, arr_stones, arr_stonesGlobal)) {
+    const ReferenceLoad load =
+        loadReferenceSet(context.referencePath(), *context.err, arr_stones, arr_stonesGlobal);
+    if (!load || reportedNoStone(context, load)) {
         return exitAlert;
     }
     print(context, rankStones(arr_stonesGlobal, inputs), inputs, sep, options.limit);

@@ -1,6 +1,7 @@
 #include "app/cli/cli.h"
 #include "app/cli/headless_window.h"
 #include "app/cli/output.h"
+#include "foundation/printable.h"
 #include "foundation/text.h"
 
 #include <CLI/CLI.hpp>
@@ -31,7 +32,8 @@ int show(const Context& context, const std::string& name) {
     }
     const int item = itemNamed(w.btn_stonesList, name);
     if (item == PopUpButton::noSelection) {
-        *context.err << "show: no stone named \"" << name << "\" in the reference set\n";
+        *context.err << "show: no stone named \"" << text::printable(name)
+                     << "\" in the reference set\n";
         return exitUsage;
     }
     if (!headless.perform([&] { w.btn_stonesList.pickItem(item); })) {

@@ -13,8 +13,9 @@ void addStonesCommand(CLI::App& app, Context& context) {
     command->callback([&context] {
         StoneList arr_stones;
         StoneList arr_stonesGlobal;
-        if (!loadReferenceSet(context.referencePath(), *context.err, arr_stones,
-                              arr_stonesGlobal)) {
+        const ReferenceLoad load =
+            loadReferenceSet(context.referencePath(), *context.err, arr_stones, arr_stonesGlobal);
+        if (!load || reportedNoStone(context, load)) {
             context.exitCode = exitAlert;
             return;
         }

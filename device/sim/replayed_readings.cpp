@@ -1,14 +1,12 @@
 #include "device/sim/replayed_readings.h"
 
+#include "foundation/printable.h"
+#include "foundation/regular_file.h"
 #include "foundation/text.h"
 
 #include <cassert>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
-#include <cstring>
-#include <fstream>
-#include <iterator>
 
 namespace velmora::sim {
 
@@ -37,54 +35,52 @@ std::uint16_t ReplayedReadings::next() {
     return reading;
 }
 
-bool loadReadingFile(const std::filesystem::path& path, std::vector<std::uint16_t>& readings,
-                     std::string& error) {
-    const auto cannotRead = [&](const std::string& reason) {
-        error = path.string() + ": cannot be read: " + reason;
-        return false;
-    };
-    std::error_code folder;
-    if (std::filesystem::is_directory(path, folder)) {
-        return cannotRead("it is a folder");
-    }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return cannotRead(std::strerror(errno));
-    }
-    const std::string content{std::istreambuf_iterator<char>(file), {}};
-    if (file.bad()) {
-        return cannotRead(std::strerror(errno));
-    }
-    std::string_view text = content;
+bool parseReadings(std::string_view text, const std::string& name,
+                   std::vector<std::uint16_t>& readings, std::string& error) {
     if (text.starts_with("\xEF\xBB\xBF")) {
         text.remove_prefix(3);
     }
-
     std::vector<std::uint16_t> loaded;
     std::size_t lineNumber = 0;
-    for (const auto line : text::splitLines(text)) {
+    bool bad = false;
+    text::forEachLine(text, [&](std::string_view line) {
         ++lineNumber;
         const auto reading = trimmed(line);
-        if (reading.empty()) {
-            continue;
+        if (bad || reading.empty()) {
+            return;
         }
         double value = 0;
         const char* end = reading.data() + reading.size();
         const auto parsed = std::from_chars(reading.data(), end, value, std::chars_format::fixed);
         if (parsed.ec != std::errc{} || parsed.ptr != end || !(value >= 0) ||
             value > largestReading) {
-            error = path.string() + ":" + std::to_string(lineNumber) + ": \"" +
-                    std::string(reading) + "\" is not an R.I. from 0.000 to 65.535";
-            return false;
+            error = name + ":" + std::to_string(lineNumber) + ": \"" + text::excerpt(reading) +
+                    "\" is not an R.I. from 0.000 to 65.535";
+            bad = true;
+            return;
         }
         loaded.push_back(static_cast<std::uint16_t>(std::lround(value * 1000)));
+    });
+    if (bad) {
+        return false;
     }
     if (loaded.empty()) {
-        error = path.string() + ": holds no reading (one R.I. a line, such as 1.544)";
+        error = name + ": holds no reading (one R.I. a line, such as 1.544)";
         return false;
     }
     readings = std::move(loaded);
     return true;
+}
+
+bool loadReadingFile(const std::filesystem::path& path, std::vector<std::uint16_t>& readings,
+                     std::string& error) {
+    const std::string name = text::printable(path.string());
+    const FileBytes file = readRegularFile(path, readingFileLimit, "file of readings");
+    if (!file.bytes) {
+        error = name + ": cannot be read: " + file.error;
+        return false;
+    }
+    return parseReadings(*file.bytes, name, readings, error);
 }
 
 } // namespace velmora::sim

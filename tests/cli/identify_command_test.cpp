@@ -49,8 +49,11 @@ TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
         {{"--json", "--color", "Green"}, "{\"number\":\"3\",\"name\":\"Beryl\"}\n", ""},
         {{"--ri", "1,544", "--decimal-separator", "."}, "", "Please use '.' as decimals!\n"},
         {{"--hardness", "10"}, "", "Result: Not Found in Record\n"},
+        // An empty value ticks the box and types nothing: the search's own check speaks.
         {{"--name", ""}, "", "Please enter name of stone!\n"},
-        {{"--sg", ""}, "", "Please insert number only!\n"},
+        {{"--sg", ""}, "", "Please enter S.G. value!\n"},
+        {{"--ri", ""}, "", "Please enter R.I. value!\n"},
+        {{"--hardness", "", "--ri", "1.55"}, "", "Please enter Hardness value!\n"},
     };
     for (const auto& [args, out, err] : cases) {
         const auto r = identify(file, args);

@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 #include <regex>
 #include <sstream>
+#include <sys/stat.h>
 
 namespace velmora::test {
 namespace {
@@ -34,6 +35,15 @@ TEST(ReadCommand, ReplaysAFileFromTheTopAgainAndRefusesOneItCannotReplay) {
     EXPECT_EQ(bad.status, 1);
     EXPECT_THAT(bad.err, HasSubstr("bad.txt:1: \"1.5x\" is not an R.I."));
     EXPECT_EQ(bad.out, "");
+    // A long bad line is quoted in short, its control characters written out.
+    const auto crafted =
+        runCli({"read", "--simulate=" + dir.write("crafted.txt", "1.544\n\x1B]0;owned\x07" +
+                                                                     std::string(1000, 'x'))
+                                            .string()});
+    EXPECT_EQ(crafted.status, 1);
+    EXPECT_THAT(crafted.err,
+                HasSubstr("crafted.txt:2: \"\\x1B]0;owned\\x07" + std::string(30, 'x') + "...\""));
+    EXPECT_LT(crafted.err.size(), 200u);
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "0"}).status, 2);
     EXPECT_EQ(runCli({"read", "--simulate", "--count", "many"}).status, 2);
 }
@@ -82,6 +92,31 @@ TEST(ReadCommand, SteadyPrintsOneLineEachTimeTheReadingSettles) {
         EXPECT_EQ(steady[i]["reading"], readings[i]) << i;
         EXPECT_DOUBLE_EQ(steady[i]["spread"].get<double>(), spreads[i]) << i;
         EXPECT_NEAR(steady[i]["time"].get<double>(), times[i], 0.05) << i;
+    }
+}
+
+// None of these is opened: a pipe without a writer would hang the command, the devices would feed
+// it without end, and the sparse file would be taken whole into memory.
+TEST(ReadCommand, RefusesAReplayFileThatIsNoFileOrTooLargeAtOnce) {
+    TempDir dir;
+    const auto fifo = dir.path() / "pipe";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    const auto sparse = dir.write("huge.txt", "");
+    std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
+    const auto over = dir.write("over.txt", std::string((1 << 20) + 1, '\n'));
+    const std::pair<std::string, std::string> files[] = {
+        {fifo.string(), "a device, a pipe or a socket"},
+        {"/dev/zero", "a device, a pipe or a socket"},
+        {"/dev/urandom", "a device, a pipe or a socket"},
+        {dir.path().string(), "it is a folder"},
+        {sparse.string(), "larger than 1 MiB, the most a file of readings may hold"},
+        {over.string(), "larger than 1 MiB"},
+    };
+    for (const auto& [path, reason] : files) {
+        const auto r = runCli({"read", "--simulate=" + path, "--count", "1"});
+        EXPECT_EQ(r.status, 1) << path;
+        EXPECT_THAT(r.err, HasSubstr(reason));
+        EXPECT_EQ(r.out, "");
     }
 }
 

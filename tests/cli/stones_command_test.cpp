@@ -29,6 +29,36 @@ TEST(StonesCommand, UnreadableReferencePrintsTheLoadersLineAndFails) {
     EXPECT_EQ(r.err.find('\n'), r.err.size() - 1);
 }
 
+// A crafted table must not reach the terminal as control sequences: a title set, a screen cleared.
+TEST(StonesCommand, WritesOutTheControlCharactersOfNames) {
+    ReferenceFile file({stoneRow("1\x1B[2J", "Ruby\x1B]0;owned\x07\t\xC2\x9B")});
+    const auto r = runCli({"stones", "--reference", file.path});
+    EXPECT_EQ(r.out, "1\\x1B[2J\tRuby\\x1B]0;owned\\x07\\x09U+009B\n");
+    const auto json = runCli({"stones", "--json", "--reference", file.path});
+    EXPECT_EQ(json.out.find('\x1B'), std::string::npos) << json.out;
+}
+
+// Each of these is answered at once, with the reason on standard error and nothing listed.
+TEST(StonesCommand, AFileThatIsNoTableIsToldAndFails) {
+    TempDir dir;
+    const auto sparse = dir.write("huge.csv", "");
+    std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
+    const std::pair<std::string, std::string> files[] = {
+        {"/dev/zero", "a device, a pipe or a socket"},
+        {"/dev/urandom", "a device, a pipe or a socket"},
+        {dir.path().string(), "it is a folder"},
+        {sparse.string(), "larger than 64 MiB"},
+        {dir.write("nul.csv", std::string(1 << 20, '\0')).string(), "holds no stone"},
+    };
+    for (const auto& [path, reason] : files) {
+        const auto r = runCli({"stones", "--reference", path});
+        EXPECT_EQ(r.status, 1) << path;
+        EXPECT_EQ(r.out, "");
+        EXPECT_NE(r.err.find(reason), std::string::npos) << r.err;
+        EXPECT_LT(r.err.size(), 300u);
+    }
+}
+
 TEST(StonesCommand, UsageErrorsExitTwo) {
     EXPECT_EQ(runCli({}).status, 2);
     EXPECT_EQ(runCli({"polish"}).status, 2);

@@ -1,3 +1,4 @@
+#include "data/reference_file.h"
 #include "data/reference_loader.h"
 #include "tests/support/reference_rows.h"
 #include "tests/support/temp_dir.h"
@@ -16,7 +17,7 @@ struct Lists {
     StoneList arr_stonesGlobal;
     std::ostringstream out;
 
-    bool load(const std::optional<std::filesystem::path>& path) {
+    ReferenceLoad load(const std::optional<std::filesystem::path>& path) {
         return loadReferenceSet(path, out, arr_stones, arr_stonesGlobal);
     }
 };
@@ -58,6 +59,60 @@ TEST(LoadReferenceSet, AFileItCannotReadWritesTheReasonAndLeavesTheListsAlone) {
         EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
         EXPECT_EQ(lists.out.str().find('\n'), lists.out.str().size() - 1);
     }
+}
+
+// A path given on the command line may name anything; the answer comes at once, in a sentence
+// that names the limit, and the lists stay as they were.
+TEST(LoadReferenceSet, RefusesWhatIsNoTableOfAReasonableSize) {
+    test::TempDir dir;
+    const auto sparse = dir.write("sparse.csv", "");
+    std::filesystem::resize_file(sparse, referenceFileLimit + 1);
+    // Small rows in a small file would each still take a record of 28 texts.
+    std::string manyStones = std::string(referenceHeader) + "\n";
+    for (std::size_t i = 0; i <= referenceStoneLimit; ++i) {
+        manyStones += ",,,,,,,,,,,,,,,,1,,,,,,,,,,,\n";
+    }
+    const std::pair<std::filesystem::path, std::string> refused[] = {
+        {"/dev/zero", "a device, a pipe or a socket"},
+        {sparse, "larger than 64 MiB, the most a reference table may hold"},
+        {dir.write("many.csv", manyStones), "more than 200000 stones"},
+    };
+    for (const auto& [path, reason] : refused) {
+        Lists lists;
+        EXPECT_FALSE(lists.load(path));
+        EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
+        EXPECT_TRUE(lists.arr_stones.empty() && lists.arr_stonesGlobal.empty());
+    }
+}
+
+TEST(LoadReferenceSet, SaysWhenAFileThatIsNoTableHoldsNoStone) {
+    test::TempDir dir;
+    const std::pair<std::string, bool> files[] = {
+        {std::string(1 << 20, '\0'), true},
+        {std::string(100000, 'x'), true},
+        {std::string(referenceHeader) + "\nRuby;1.76;4.00\n", true}, // cut at semicolons
+        {"", true},
+        // A table with nothing in it, or nothing marked for inclusion, is still a table.
+        {std::string(referenceHeader) + "\r\n", false},
+        {std::string(referenceHeader) + "\n" + test::row({{1, "Ruby"}, {16, "0"}}) + "\n", false},
+    };
+    for (const auto& [bytes, noStone] : files) {
+        Lists lists;
+        const auto load = lists.load(dir.write("t.csv", bytes));
+        EXPECT_TRUE(load.read);
+        EXPECT_TRUE(lists.arr_stonesGlobal.empty());
+        EXPECT_EQ(load.holdsNoStone.empty(), !noStone) << bytes.substr(0, 40);
+        EXPECT_EQ(lists.out.str(), "");
+    }
+}
+
+// The message quotes the path as given, its control characters written out.
+TEST(LoadReferenceSet, QuotesAPathWithItsControlCharactersWrittenOut) {
+    test::TempDir dir;
+    Lists lists;
+    EXPECT_FALSE(lists.load(dir.path() / "\x1B[2J.csv"));
+    EXPECT_NE(lists.out.str().find("\\x1B[2J.csv\""), std::string::npos) << lists.out.str();
+    EXPECT_EQ(lists.out.str().find('\x1B'), std::string::npos);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "data/text_decoding.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 
 namespace velmora {
 namespace {
@@ -46,6 +47,61 @@ TEST(DecodeText, AMarkSelectsTheEncodingAndWithoutOneInvalidUtf8IsWindows1252) {
                                         3))
                      .text);
     EXPECT_FALSE(decodeText("\xEF\xBB\xBF\xE9").text);
+}
+
+// Plain ASCII is skipped eight bytes at a time: each sequence is tried at every place within and
+// across an eight-byte word, after a run long enough for the fast path.
+TEST(IsValidUtf8, ASequenceIsJudgedWhereverItFallsAfterALongAsciiRun) {
+    const std::string run(24, 'a');
+    const std::pair<std::string, bool> sequences[] = {
+        {"\xC3\xA9", true},          // é
+        {"\xE2\x82\xAC", true},      // €
+        {"\xF0\x9F\x92\x8E", true},  // a gem, beyond the basic plane
+        {"\x80", false},             // a lone continuation byte
+        {"\xC0\xAF", false},         // overlong
+        {"\xED\xA0\x80", false},     // a surrogate
+        {"\xF4\x90\x80\x80", false}, // beyond U+10FFFF
+        {"\xFF", false},
+        {"\xE2\x82", false}, // cut short by the ASCII after it
+    };
+    for (const auto& [sequence, valid] : sequences) {
+        for (std::size_t at = 0; at <= run.size(); ++at) {
+            const std::string s = run.substr(0, at) + sequence + run;
+            EXPECT_EQ(isValidUtf8(s), valid) << "sequence of " << sequence.size() << " at " << at;
+        }
+        // Cut short by the end of the text.
+        if (valid) {
+            EXPECT_FALSE(isValidUtf8(run + sequence.substr(0, sequence.size() - 1)));
+        }
+    }
+}
+
+// A length of exactly 4 GiB is 0 in 32 bits: the text must still be read, from its first byte.
+// The pages are reserved, not filled; only the first is touched.
+TEST(IsValidUtf8, ALengthBeyond32BitsIsTakenWhole) {
+    constexpr std::size_t length = std::size_t{1} << 32;
+    void* pages = mmap(nullptr, length, PROT_READ | PROT_WRITE,
+                       MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (pages == MAP_FAILED) {
+        GTEST_SKIP() << "no 4 GiB of address space";
+    }
+    static_cast<char*>(pages)[0] = '\xFF';
+    EXPECT_FALSE(isValidUtf8(std::string_view(static_cast<const char*>(pages), length)));
+    munmap(pages, length);
+}
+
+// The converter works piece by piece: a text far longer than one piece comes out whole.
+TEST(DecodeText, ALongMarkedTextDecodesWhole) {
+    std::u16string utf16;
+    std::string utf8;
+    for (int i = 0; i < 40000; ++i) {
+        utf16 += u"Sph\u00E8ne \xD83D\xDC8E\n";
+        utf8 += "Sph\xC3\xA8ne \xF0\x9F\x92\x8E\n";
+    }
+    const auto decoded = decodeText(marked(utf16, false));
+    ASSERT_TRUE(decoded.text);
+    EXPECT_EQ(decoded.text->size(), utf8.size());
+    EXPECT_TRUE(*decoded.text == utf8);
 }
 
 } // namespace

@@ -2,9 +2,15 @@
 #include "device/hid_report_descriptor.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace velmora::test {
 namespace {
+
+Bytes operator+(Bytes a, const Bytes& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
 
 TEST(HidReportDescriptor, GivesTheLongestInputReportWithItsIdentifierByteOrNoneWhenCut) {
     // The instrument: vendor-defined, one unnumbered report of 8 bytes each way.
@@ -29,6 +35,26 @@ TEST(HidReportDescriptor, GivesTheLongestInputReportWithItsIdentifierByteOrNoneW
     EXPECT_EQ(maxInputReportSize(Bytes{0x75, 0x08, 0x96, 0x40}), std::nullopt);
     EXPECT_EQ(maxInputReportSize(Bytes{0x75, 0x08, 0xFE, 0x04, 0x10, 0x01}), std::nullopt);
     EXPECT_EQ(maxInputReportSize(Bytes{0xFE}), std::nullopt);
+}
+
+// Sizes and counts of 2^31 make 2^62 bits an item; four of them would wrap 64 bits to 0.
+TEST(HidReportDescriptor, ReportsTooLongToCountSaturateInsteadOfWrapping) {
+    constexpr auto largest = std::numeric_limits<std::int64_t>::max();
+    const Bytes huge{0x77, 0x00, 0x00, 0x00, 0x80, 0x97, 0x00, 0x00, 0x00, 0x80};
+    const std::pair<Bytes, std::optional<std::int64_t>> cases[] = {
+        {huge + Bytes{0x80, 0x80, 0x80}, std::int64_t{3} << 59}, // 3 * 2^62 bits still fit
+        {huge + Bytes{0x80, 0x80, 0x80, 0x80}, largest},
+        {huge + Bytes{0x80, 0x80, 0x80, 0x80, 0x80}, largest},
+        // One item of (2^32 - 1)^2 bits fits; a second one does not.
+        {Bytes{0x77, 0xFF, 0xFF, 0xFF, 0xFF, 0x97, 0xFF, 0xFF, 0xFF, 0xFF, 0x80},
+         std::int64_t{0x1FFFFFFFC0000001}},
+        {Bytes{0x77, 0xFF, 0xFF, 0xFF, 0xFF, 0x97, 0xFF, 0xFF, 0xFF, 0xFF, 0x80, 0x80}, largest},
+        // Numbered: the identifier byte on top of the largest is still the largest.
+        {Bytes{0x85, 0x01} + huge + Bytes{0x80, 0x80, 0x80, 0x80}, largest},
+    };
+    for (const auto& [descriptor, length] : cases) {
+        EXPECT_EQ(maxInputReportSize(descriptor), length);
+    }
 }
 
 } // namespace

@@ -36,5 +36,61 @@ TEST(Text, EachOfTheSevenNewlinesCutsALineOnItsOwn) {
     EXPECT_EQ(splitLines("a\xE2\x80").size(), 1u);
 }
 
+// The scan skips eight plain bytes at a time, so every newline is tried at every place within and
+// across an eight-byte word, with plain text around it long enough for the fast path to run.
+TEST(Text, ANewlineIsFoundWhereverItFallsInALongLine) {
+    const std::string before(24, 'x');
+    const std::string after(17, 'y');
+    for (const std::string nl :
+         {"\n", "\v", "\f", "\r", "\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"}) {
+        for (std::size_t at = 0; at <= before.size(); ++at) {
+            const std::string s = before.substr(0, at) + nl + after;
+            EXPECT_EQ(splitLines(s), (std::vector<std::string_view>{before.substr(0, at), after}))
+                << "newline of " << nl.size() << " bytes at " << at;
+        }
+    }
+}
+
+TEST(Text, LongLinesCutOnlyAtNewlines) {
+    const struct {
+        std::string text;
+        std::vector<std::string_view> lines;
+    } cases[] = {
+        // Old Mac line ends: lone CRs, at offsets 5, 13 and 26.
+        {"Ruby,\rSapphire,\rRock crystal,\rX", {"Ruby,", "Sapphire,", "Rock crystal,", "X"}},
+        // CR at the end of one eight-byte word, LF at the start of the next.
+        {"1234567\r\n89abcdefgh", {"1234567", "", "89abcdefgh"}},
+        // NEL and LS split across the boundary.
+        {"1234567\xC2\x85"
+         "89abcdefgh",
+         {"1234567", "89abcdefgh"}},
+        {"123456\xE2\x80\xA8"
+         "789abcdefg",
+         {"123456", "789abcdefg"}},
+        {"1234567\xE2\x80\xA9"
+         "89abcdefg",
+         {"1234567", "89abcdefg"}},
+        // Characters that only look like the start of a newline: no cut.
+        {"1234567\xC3\xA9"
+         "89abcdefgh",
+         {"1234567\xC3\xA9"
+          "89abcdefgh"}},
+        {"123456\xE2\x82\xAC"
+         "789abcdefg",
+         {"123456\xE2\x82\xAC"
+          "789abcdefg"}},
+        // Control bytes beside the newlines' range, a TAB and DEL: no cut.
+        {"12345678\x0E\x09\x1F\x7F"
+         "9abcdefghi",
+         {"12345678\x0E\x09\x1F\x7F"
+          "9abcdefghi"}},
+        // A newline in the very last byte of a long text gives an empty last line.
+        {"0123456789abcdef\n", {"0123456789abcdef", ""}},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(splitLines(c.text), c.lines) << c.text;
+    }
+}
+
 } // namespace
 } // namespace velmora::text

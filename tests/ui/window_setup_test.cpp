@@ -58,6 +58,20 @@ TEST(Setup, AMissingReferenceFileIsToldOnStandardOutputAndTheWindowGoesOn) {
     EXPECT_EQ(missing.window.tableView.selectedRow(), TableView::noSelection);
 }
 
+// A table saved with semicolons yields no stone: the user is told once the window is up, where a
+// table with no row marked for inclusion loads quietly as it always has.
+TEST(Setup, AFileThatIsNoReferenceTableIsToldInAnAlert) {
+    WindowHarness semicolons({.rows = std::vector<std::string>{"1;Ruby;4.00", "2;Beryl;2.70"}});
+    ASSERT_EQ(semicolons.alertPresenter.alerts.size(), 1u);
+    EXPECT_NE(semicolons.alertPresenter.alerts[0].message.find("holds no stone"),
+              std::string::npos);
+    EXPECT_EQ(semicolons.alertPresenter.alerts[0].style, AlertStyle::Warning);
+    EXPECT_EQ(semicolons.standardOutput.str(), "");
+
+    WindowHarness noneIncluded({.rows = std::vector<std::string>{row({{1, "Ruby"}, {16, "0"}})}});
+    EXPECT_TRUE(noneIncluded.alertPresenter.alerts.empty());
+}
+
 TEST(Tabs, TheDictionaryListsEverythingAndMakesEveryCriterionAvailableOnceItsQueueRuns) {
     WindowHarness h({.rows = rows});
     MainWindow& w = h.window;

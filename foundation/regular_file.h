@@ -1,0 +1,27 @@
+#pragma once
+
+// Reading a whole file the user named. Only a regular file is opened: a folder, a pipe with no
+// writer or a device such as /dev/zero is refused from its status before anything is read, and a
+// file larger than the caller's limit is refused before any memory is taken for it.
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+struct FileBytes {
+    std::optional<std::string> bytes;
+    std::string error; // why there are no bytes, a clause such as "it is a folder"
+};
+
+// kind names the file in the size clause: "it is larger than 64 MiB, the most a <kind> may hold".
+FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
+                          std::string_view kind);
+
+// "64 MiB", "512 KiB", "100 bytes".
+std::string sizeText(std::size_t bytes);
+
+} // namespace velmora
