@@ -4,6 +4,8 @@
 #include "search/deviation_text.h"
 #include "search/ranking_table.h"
 
+#include <algorithm>
+
 namespace velmora {
 namespace {
 
