@@ -45,7 +45,7 @@ std::vector<BestMatchRow> bestMatchRows(const Ranking& ranking, bool overTheLimi
         std::string off =
             deviationText(lead, overTheLimit, !ranking.anyWithinTolerance, decimalSeparator);
         rows.push_back({lead.stone, std::to_string(lead.fit) + "%", std::move(name),
-                        off.empty() ? "Fits every reading" : std::move(off)});
+                        off.empty() ? "Fits every reading" : std::move(off), lead.withinTolerance});
     }
     return rows;
 }

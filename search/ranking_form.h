@@ -39,6 +39,7 @@ struct BestMatchRow {
     std::string fit;               // "100%"
     std::string candidate;         // the name, then on a second line the varieties or the family
     std::string deviations;        // in words; "Fits every reading" when nothing lies off
+    bool withinTolerance = false;  // every reading fits within the instruments' tolerance
 };
 
 struct RankedForm {

@@ -5,8 +5,13 @@
 namespace velmora {
 namespace {
 
-// Two lines of the candidate's text under a large fit figure.
+// Two lines of the candidate's text beside a large fit figure.
 constexpr double rowHeight = 54.0;
+
+// Green for a candidate that fits every reading, slate for one that is only near: the two tell
+// apart at a glance from across the bench.
+constexpr Rgba fitsInk = Rgba::rgb255(30, 123, 52);
+constexpr Rgba nearInk = Rgba::rgb255(95, 104, 125);
 
 } // namespace
 
@@ -61,6 +66,9 @@ std::shared_ptr<View> BestMatches::tableViewViewFor(TableView& table, const Tabl
         cell->textField()->setText(id == fitColumn         ? shown.fit
                                    : id == candidateColumn ? shown.candidate
                                                            : shown.deviations);
+        if (id == fitColumn) {
+            cell->textField()->setTextColor(shown.withinTolerance ? fitsInk : nearInk);
+        }
     }
     return cell;
 }

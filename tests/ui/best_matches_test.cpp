@@ -68,6 +68,8 @@ TEST(BestMatches, RankOnSearchAndAnewAsTheirOwnEntriesChange) {
     EXPECT_EQ(ruby.cell(0, 0), "100%");
     EXPECT_EQ(ruby.cell(1, 0), "Corundum\nPink sapphire, Ruby");
     EXPECT_EQ(ruby.cell(2, 0), "Fits every reading");
+    const auto green = cellTextColor(ruby.window.tbl_bestMatches, 0, 0);
+    EXPECT_TRUE(green && green->green > green->red);
     // Once something fits, the stones that do not are left out: Almandine's range starts 0.013
     // above the low reading, and a spread of 0.008 is no singly refractive stone's.
     EXPECT_EQ(ruby.candidates(), Texts{"Corundum"});

@@ -1,6 +1,7 @@
 #include "ui/qt/table_view_model.h"
 
 #include "ui/main_window.h"
+#include "ui/qt/layer_style.h"
 
 #include <QSize>
 
@@ -58,6 +59,11 @@ QVariant TableViewModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole: // the whole text of a cell cut short
         if (const auto text = cellText(table_, index.column(), index.row())) {
             return QString::fromStdString(*text);
+        }
+        return {};
+    case Qt::ForegroundRole:
+        if (const auto color = cellTextColor(table_, index.column(), index.row())) {
+            return toQColor(*color);
         }
         return {};
     case Qt::SizeHintRole:
