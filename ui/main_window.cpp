@@ -18,7 +18,8 @@ MainWindow::MainWindow() {
     check_color.setTag(3);
     check_Name.setTag(4);
 
-    for (TextField* label : {&usb_device_reading, &lbl_deviceStatus, &lbl_stonesCount}) {
+    for (TextField* label :
+         {&usb_device_reading, &lbl_deviceStatus, &lbl_stonesCount, &lbl_bestMatchesNote}) {
         label->setEditable(false);
     }
 
@@ -34,7 +35,9 @@ bool MainWindow::makeFirstResponder(TextField* field) {
     if (field && (!field->isEnabled() || !field->isEditable())) {
         return false;
     }
-    if (editing_) {
+    // A field disabled while it was edited has had its editing aborted: there is nothing left to
+    // check, as when a tab change empties and locks the entry that still holds the keyboard.
+    if (editing_ && editing_->isEnabled()) {
         if (TextFieldDelegate* delegate = editing_->delegate()) {
             FieldEditor editor(*editing_);
             if (!delegate->controlTextShouldEndEditing(*editing_, editor)) {

@@ -33,9 +33,9 @@ public:
 
     // The entry being edited, if any.
     TextField* firstResponder() const { return editing_; }
-    // Ends the current editing, if its delegate agrees, and starts editing the field (nothing:
-    // no field). A disabled or read-only field cannot take the keyboard. True when the focus
-    // is where it was asked to be.
+    // Ends the current editing, if its delegate agrees (a field disabled meanwhile is not asked),
+    // and starts editing the field (nothing: no field). A disabled or read-only field cannot take
+    // the keyboard. True when the focus is where it was asked to be.
     bool makeFirstResponder(TextField* field);
     // Typing at the end of the edited entry, one character (Unicode scalar) at a time; its
     // delegate hears of every change.

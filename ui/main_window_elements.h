@@ -27,7 +27,11 @@
     ELEMENT(Button, check_Name, ButtonType::CheckBox)                                              \
     ELEMENT(View, check_Name_Container)                                                            \
     ELEMENT(TextField, txt_leftRIReading)                                                          \
+    ELEMENT(TextField, txt_leftRIHigh)                                                             \
+    ELEMENT(Button, check_overTheLimit, ButtonType::CheckBox)                                      \
     ELEMENT(TextField, txt_leftSG)                                                                 \
+    ELEMENT(TextField, txt_weightAir)                                                              \
+    ELEMENT(TextField, txt_weightWater)                                                            \
     ELEMENT(TextField, txt_leftHardness)                                                           \
     ELEMENT(TextField, txt_left_name)                                                              \
     ELEMENT(PopUpButton, btn_color)                                                                \
@@ -49,6 +53,10 @@
     ELEMENT(TextField, lbl_stonesCount)                                                            \
     ELEMENT(TableView, tableView,                                                                  \
             std::vector<TableColumn>{{MainWindow::idColumn}, {"titleColumn"}})                     \
+    /* Best matches */                                                                             \
+    ELEMENT(TextField, lbl_bestMatchesNote)                                                        \
+    ELEMENT(TableView, tbl_bestMatches,                                                            \
+            std::vector<TableColumn>{{"fitColumn"}, {"candidateColumn"}, {"deviationsColumn"}})    \
     ELEMENT(TextField, txt_RI)                                                                     \
     ELEMENT(TextField, txt_sg)                                                                     \
     ELEMENT(TextField, txt_hardness)                                                               \

@@ -1,18 +1,24 @@
 #include "ui/view_controller.h"
 
+#include <vector>
+
 namespace velmora {
 
 void ViewController::btn_checkBox_tap(Button& sender) {
     const bool on = sender.state() == ButtonState::On;
     TextField* entry = nullptr;
+    // The Best matches view's entries that go with the criterion's own.
+    std::vector<TextField*> companions;
     bool* flag = nullptr;
     switch (sender.tag()) {
     case 0:
         entry = &txt_leftRIReading;
+        companions = {&txt_leftRIHigh};
         flag = &isRIState;
         break;
     case 1:
         entry = &txt_leftSG;
+        companions = {&txt_weightAir, &txt_weightWater};
         flag = &isSGState;
         break;
     case 2:
@@ -30,9 +36,12 @@ void ViewController::btn_checkBox_tap(Button& sender) {
         return;
     }
     if (entry) {
-        entry->setEnabled(on);
-        if (!on) {
-            entry->setText({});
+        companions.push_back(entry);
+        for (TextField* field : companions) {
+            field->setEnabled(on);
+            if (!on) {
+                field->setText({});
+            }
         }
     } else {
         btn_color.setEnabled(on);
@@ -80,8 +89,9 @@ void ViewController::clearSearchForm() {
 }
 
 void ViewController::emptyCriteria(CheckBoxes checkBoxes) {
-    TextField* const entries[] = {&txt_leftSG, &txt_leftHardness, &txt_left_name,
-                                  &txt_leftRIReading};
+    TextField* const entries[] = {&txt_leftSG,        &txt_leftHardness, &txt_left_name,
+                                  &txt_leftRIReading, &txt_leftRIHigh,   &txt_weightAir,
+                                  &txt_weightWater};
     Button* const boxes[] = {&check_RI, &check_sg, &check_hardness, &check_Name, &check_color};
     for (TextField* entry : entries) {
         entry->setText({});
@@ -102,6 +112,9 @@ void ViewController::emptyCriteria(CheckBoxes checkBoxes) {
         entry->setEnabled(false);
     }
     isRIState = isSGState = isHardnessState = isNameState = isColorState = false;
+    // Always available: without a shadow edge there is nothing to tick R.I. for.
+    check_overTheLimit.setState(ButtonState::Off);
+    rankBestMatches();
 }
 
 } // namespace velmora

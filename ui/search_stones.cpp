@@ -27,6 +27,7 @@ void ViewController::searchStones() {
         tableView.selectRow(0);
         tableViewShouldSelectRow(tableView, 0);
     }
+    rankBestMatches();
 }
 
 SearchForm ViewController::searchForm() const {

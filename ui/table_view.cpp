@@ -43,12 +43,28 @@ void TableView::clickRow(int row) {
     }
 }
 
+namespace {
+
+TextField* cellField(const std::shared_ptr<TableCellView>& cell) {
+    return cell ? cell->textField() : nullptr;
+}
+
+} // namespace
+
 std::optional<std::string> cellText(TableView& table, int column, int row) {
     const auto cell = std::dynamic_pointer_cast<TableCellView>(table.viewAt(column, row));
-    if (!cell || !cell->textField()) {
-        return std::nullopt;
+    if (TextField* field = cellField(cell)) {
+        return field->text();
     }
-    return cell->textField()->text();
+    return std::nullopt;
+}
+
+std::optional<Rgba> cellTextColor(TableView& table, int column, int row) {
+    const auto cell = std::dynamic_pointer_cast<TableCellView>(table.viewAt(column, row));
+    if (TextField* field = cellField(cell)) {
+        return field->textColor();
+    }
+    return std::nullopt;
 }
 
 } // namespace velmora

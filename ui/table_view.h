@@ -97,5 +97,7 @@ private:
 
 // The text a shown cell displays, or nothing when it has no view or no text field.
 std::optional<std::string> cellText(TableView& table, int column, int row);
+// The colour of that text, when the cell gives one.
+std::optional<Rgba> cellTextColor(TableView& table, int column, int row);
 
 } // namespace velmora

@@ -2,8 +2,10 @@
 
 // A one-line text field: an entry the user types into, or a label the program writes.
 
+#include "foundation/rgba.h"
 #include "ui/control.h"
 
+#include <optional>
 #include <string>
 
 namespace velmora {
@@ -27,6 +29,11 @@ public:
     // Setting the text from the program tells the delegate nothing: only typing is checked.
     void setText(std::string text) { update(text_, std::move(text), Property::Text); }
 
+    // A table cell's text colour; nothing: the interface file's. The window's own fields are
+    // coloured by the interface file alone.
+    const std::optional<Rgba>& textColor() const { return textColor_; }
+    void setTextColor(std::optional<Rgba> color) { update(textColor_, color, Property::TextColor); }
+
     bool isEditable() const { return editable_; }
     void setEditable(bool editable) { update(editable_, editable, Property::Editable); }
 
@@ -35,6 +42,7 @@ public:
 
 private:
     std::string text_;
+    std::optional<Rgba> textColor_;
     bool editable_ = true;
     TextFieldDelegate* delegate_ = nullptr;
 };

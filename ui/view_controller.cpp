@@ -7,7 +7,10 @@
 namespace velmora {
 
 ViewController::ViewController(MainWindow& window, ViewControllerEnvironment environment)
-    : MainWindowOutlets(window), environment_(std::move(environment)) {
+    : MainWindowOutlets(window), environment_(std::move(environment)),
+      bestMatches_(
+          tbl_bestMatches, lbl_bestMatchesNote,
+          [this](const Stones& stone) { showStoneDetail(stone); }, [this] { rankBestMatches(); }) {
     if (const std::string separator = environment_.locale.decimalSeparator(); !separator.empty()) {
         decimalSeparator = separator;
     }
@@ -27,6 +30,7 @@ void ViewController::connectActions() {
     for (Button* criterion : {&check_RI, &check_sg, &check_hardness, &check_color, &check_Name}) {
         criterion->setAction([this](Button& sender) { btn_checkBox_tap(sender); });
     }
+    check_overTheLimit.setAction([this](Button& sender) { btn_overTheLimit_tap(sender); });
     btn_search.setAction([this](Button& sender) { btn_search_tap(sender); });
     btn_enter.setAction([this](Button& sender) { btn_enter_tap(sender); });
     btn_clearAll.setAction([this](Button& sender) { btn_clear_tap(sender); });
@@ -44,10 +48,15 @@ void ViewController::viewDidLoad() {
     for (TextField* entry : {&txt_leftSG, &txt_leftHardness, &txt_leftRIReading}) {
         entry->setDelegate(this);
     }
+    for (TextField* entry : {&txt_leftRIHigh, &txt_weightAir, &txt_weightWater}) {
+        entry->setDelegate(&bestMatches_);
+    }
     window_.setTitle(windowTitle);
     styleViews();
     selectTab(0);
     loadStones();
+    bestMatches_.setStones(arr_stonesGlobal);
+    rankBestMatches();
     observeInstrument();
 }
 
@@ -82,6 +91,7 @@ void ViewController::styleViews() {
     check_hardness.setAttributedTitle(criterionTitle("Hardness"));
     check_color.setAttributedTitle(criterionTitle("Color"));
     check_Name.setAttributedTitle(criterionTitle("Name"));
+    check_overTheLimit.setAttributedTitle(criterionTitle("Over the limit"));
     btn_reset.setBorderWidth(1.0);
     btn_reset.setBorderColor(systemRed);
 }

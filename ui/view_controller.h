@@ -14,6 +14,7 @@
 #include "foundation/notification_center.h"
 #include "foundation/run_loop.h"
 #include "ui/alert_presenter.h"
+#include "ui/best_matches.h"
 #include "ui/field_editor.h"
 #include "ui/main_window_outlets.h"
 #include "ui/screen_presenter.h"
@@ -98,6 +99,13 @@ public:
     double tableViewHeightOfRow(TableView& table, int row) override;
     bool tableViewShouldSelectRow(TableView& table, int row) override;
 
+    // Best matches (best_matches_form.cpp): ranked anew on every Search and Enter, and on every
+    // change of the view's own inputs (the high R.I., the over-the-limit switch, the weights).
+    void rankBestMatches();
+    // Two readings of one stone turned on the prism, as a captured series gives them.
+    void enterRotationReadings(double low, double high);
+    void btn_overTheLimit_tap(Button& sender);
+
     // The live reading panel (device_panel.cpp)
     void applyDevicePanelState(DevicePanelState state);
     void queueDevicePanelState(DevicePanelState state);
@@ -126,10 +134,12 @@ private:
     std::string currentDecimalSeparator() const;
     DecimalSeparators decimalSeparators() const;
     SearchForm searchForm() const;
+    RankingForm rankingForm() const;
     TextField& numericEntry(NumericEntry entry);
 
     ViewControllerEnvironment environment_;
     std::vector<NotificationCenter::Token> observations_;
+    BestMatches bestMatches_;
 };
 
 // Empties an entry, or the field editor holding its text while it is edited.

@@ -27,6 +27,7 @@ enum class Property {
     SelectedRow,
     Constant,
     Title,
+    TextColor,
 };
 
 class ViewElement {

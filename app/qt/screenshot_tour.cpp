@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QPdfDocument>
 #include <QPdfView>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -96,9 +97,21 @@ public:
         click("btn_search");
         save(window_, "dictionary-name.png");
 
+        // A ruby turned on the prism gives its two readings; weighed, its S.G.
+        click("btn_clearAll");
+        click("check_RI");
+        type("txt_leftRIReading", "1.762");
+        type("txt_leftRIHigh", "1.770");
+        click("check_sg");
+        type("txt_leftSG", "4.00");
+        click("btn_search");
+        child<QTabWidget>("resultsTabs")->setCurrentWidget(child<QWidget>("tab_bestMatches"));
+        clickFirstRow("tbl_bestMatches");
+        save(window_, "best-matches.png");
+
         saveScreen("btn_contactUs", "contact.png");
         saveScreen("btn_tutorial", "tutorial.png");
-        return saved_ == 7;
+        return saved_ == 8;
     }
 
 private:
@@ -118,7 +131,7 @@ private:
         }
     }
 
-    // As the user clicks: the button takes the keyboard, which ends the editing of an entry.
+    // As the user clicks: the entry being edited keeps the keyboard.
     void click(const char* name) {
         auto* button = child<QAbstractButton>(name);
         // A check box answers on its box and title, not on the rest of its width.
@@ -132,6 +145,13 @@ private:
         QLineEdit* entry = child<QLineEdit>(name);
         entry->setFocus(Qt::MouseFocusReason);
         QTest::keyClicks(entry, text);
+        settle();
+    }
+
+    void clickFirstRow(const char* name) {
+        auto* table = child<QTableView>(name);
+        const QRect cell = table->visualRect(table->model()->index(0, 1));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
         settle();
     }
 

@@ -23,6 +23,9 @@ Qt::CheckState checkState(ButtonState state) {
 
 ButtonBinding::ButtonBinding(Button& button, QAbstractButton* widget)
     : WidgetBinding(button, widget) {
+    // A click must not take the keyboard from an entry: that would end its editing, and the
+    // entry's check would come before the click's own action. Tab still reaches the button.
+    widget->setFocusPolicy(Qt::TabFocus);
     connect(widget, &QAbstractButton::clicked, this, [this] {
         element_.performClick();
         // The element may have kept its state (a disabled one ignores the click): show its own.

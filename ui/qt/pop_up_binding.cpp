@@ -6,6 +6,8 @@
 namespace velmora::qt {
 
 PopUpBinding::PopUpBinding(PopUpButton& popUp, QComboBox* widget) : WidgetBinding(popUp, widget) {
+    // As a button: a click leaves the keyboard with the entry being edited.
+    widget->setFocusPolicy(Qt::TabFocus);
     // activated, unlike currentIndexChanged, comes from the user only.
     connect(widget, &QComboBox::activated, this, [this](int index) {
         element_.pickItem(index);

@@ -1,5 +1,7 @@
 #include "ui/qt/table_binding.h"
 
+#include "ui/qt/titled_cell_delegate.h"
+
 #include <QHeaderView>
 #include <QItemSelectionModel>
 
@@ -7,8 +9,19 @@ namespace velmora::qt {
 
 TableBinding::TableBinding(TableView& table, QTableView* widget)
     : WidgetBinding(table, widget),
-      model_(new TableViewModel(table, widget->property("columnTitles").toStringList(), this)) {
+      model_(new TableViewModel(table, widget->property("columnTitles").toStringList(),
+                                widget->property("columnStyles").toStringList(), this)) {
     widget->setModel(model_);
+    // Widths the interface file gives the first columns; the last one takes what is left.
+    const QStringList widths = widget->property("columnWidths").toStringList();
+    for (int column = 0; column < widths.size(); ++column) {
+        widget->setColumnWidth(column, widths[column].toInt());
+    }
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        if (model_->isTitled(column)) {
+            widget->setItemDelegateForColumn(column, new TitledCellDelegate(widget));
+        }
+    }
     connect(widget->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TableBinding::userSelected);
 }

@@ -1,13 +1,32 @@
 #include "ui/qt/table_view_model.h"
 
 #include "ui/main_window.h"
+#include "ui/qt/layer_style.h"
 
 #include <QSize>
 
 namespace velmora::qt {
 
-TableViewModel::TableViewModel(TableView& table, QStringList columnTitles, QObject* parent)
-    : QAbstractTableModel(parent), table_(table), columnTitles_(std::move(columnTitles)) {}
+TableViewModel::TableViewModel(TableView& table, QStringList columnTitles,
+                               const QStringList& columnStyles, QObject* parent)
+    : QAbstractTableModel(parent), table_(table), columnTitles_(std::move(columnTitles)) {
+    for (const QString& style : columnStyles) {
+        ColumnStyle column;
+        for (const QString& word : style.split(' ', Qt::SkipEmptyParts)) {
+            if (word == "right" || word == "titled") {
+                (word == "right" ? column.right : column.titled) = true;
+                continue;
+            }
+            QFont& font = column.font ? *column.font : column.font.emplace();
+            if (word == "bold") {
+                font.setBold(true);
+            } else if (word.endsWith("px")) {
+                font.setPixelSize(word.chopped(2).toInt());
+            }
+        }
+        columnStyles_.push_back(column);
+    }
+}
 
 int TableViewModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : table_.numberOfRows();
@@ -17,8 +36,18 @@ int TableViewModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(table_.columns().size());
 }
 
-bool TableViewModel::isIdColumn(int column) const {
-    return table_.columns()[static_cast<std::size_t>(column)].identifier == MainWindow::idColumn;
+// Numbers line up on their last digit.
+Qt::Alignment TableViewModel::alignment(int column) const {
+    const bool right =
+        table_.columns()[static_cast<std::size_t>(column)].identifier == MainWindow::idColumn ||
+        (column < static_cast<int>(columnStyles_.size()) &&
+         columnStyles_[static_cast<std::size_t>(column)].right);
+    return (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+bool TableViewModel::isTitled(int column) const {
+    return column < static_cast<int>(columnStyles_.size()) &&
+           columnStyles_[static_cast<std::size_t>(column)].titled;
 }
 
 QVariant TableViewModel::data(const QModelIndex& index, int role) const {
@@ -27,16 +56,27 @@ QVariant TableViewModel::data(const QModelIndex& index, int role) const {
     }
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::ToolTipRole: // the whole text of a cell cut short
         if (const auto text = cellText(table_, index.column(), index.row())) {
             return QString::fromStdString(*text);
+        }
+        return {};
+    case Qt::ForegroundRole:
+        if (const auto color = cellTextColor(table_, index.column(), index.row())) {
+            return toQColor(*color);
         }
         return {};
     case Qt::SizeHintRole:
         return QSize(-1, qRound(table_.heightOfRow(index.row())));
     case Qt::TextAlignmentRole:
-        // Numbers line up on their last digit.
-        return isIdColumn(index.column()) ? int(Qt::AlignRight | Qt::AlignVCenter)
-                                          : int(Qt::AlignLeft | Qt::AlignVCenter);
+        return int(alignment(index.column()));
+    case Qt::FontRole:
+        if (index.column() < static_cast<int>(columnStyles_.size())) {
+            if (const auto& font = columnStyles_[static_cast<std::size_t>(index.column())].font) {
+                return *font;
+            }
+        }
+        return {};
     default:
         return {};
     }
@@ -50,8 +90,7 @@ QVariant TableViewModel::headerData(int section, Qt::Orientation orientation, in
         return columnTitles_.value(section);
     }
     if (role == Qt::TextAlignmentRole) {
-        return isIdColumn(section) ? int(Qt::AlignRight | Qt::AlignVCenter)
-                                   : int(Qt::AlignLeft | Qt::AlignVCenter);
+        return int(alignment(section));
     }
     return {};
 }

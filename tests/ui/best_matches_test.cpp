@@ -1,0 +1,174 @@
+#include "tests/support/reference_rows.h"
+#include "tests/support/window_harness.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+std::string gem(const std::string& id, const std::string& name, const std::string& ri,
+                const std::string& sg, const std::string& birefringence,
+                const std::string& family) {
+    return row({{0, id},
+                {1, name},
+                {5, sg},
+                {6, ri},
+                {9, "9"},
+                {14, birefringence},
+                {15, family},
+                {22, "Red"}});
+}
+
+const std::vector<std::string> reference = {
+    gem("50", "Ruby", "1.762-1.770", "3.97-4.05", "0.008", "Corundum"),
+    gem("51", "Pink sapphire", "1.762-1.770", "3.95-4.03", "0.008", "Corundum"),
+    gem("60", "Almandine", "1.775-1.830", "3.93-4.30", "none", "Garnet"),
+    gem("70", "Spinel", "1.712-1.736", "3.58-3.61", "none", "Spinel"),
+    gem("1", "Rock crystal", "1.544-1.553", "2.64-2.66", "0.009", "Quartz"),
+};
+
+struct Bench : WindowHarness {
+    Bench() : WindowHarness({.rows = reference}) { click(window.bvtn_dictionary); }
+    // The first line of each candidate, best first.
+    Texts candidates() {
+        Texts names;
+        for (int row = 0; row < window.tbl_bestMatches.numberOfRows(); ++row) {
+            const std::string text = cellText(window.tbl_bestMatches, 1, row).value_or("?");
+            names.push_back(text.substr(0, text.find('\n')));
+        }
+        return names;
+    }
+    std::string cell(int column, int row) {
+        return cellText(window.tbl_bestMatches, column, row).value_or("?");
+    }
+    std::string note() const { return window.lbl_bestMatchesNote.text(); }
+    void rubyReadings() {
+        click(window.check_RI);
+        type(window.txt_leftRIReading, "1.762");
+        type(window.txt_leftRIHigh, "1.770");
+    }
+};
+
+TEST(BestMatches, RankOnSearchAndAnewAsTheirOwnEntriesChange) {
+    Bench b;
+    EXPECT_EQ(b.note(), "Enter a reading to rank the stones by fit.");
+    EXPECT_TRUE(b.candidates().empty());
+
+    b.click(b.window.check_RI);
+    b.type(b.window.txt_leftRIReading, "1.718");
+    EXPECT_TRUE(b.candidates().empty()); // the strict form's entries wait for Search
+    b.click(b.window.btn_search);
+    EXPECT_EQ(b.candidates().front(), "Spinel");
+
+    Bench ruby;
+    ruby.rubyReadings();
+    EXPECT_EQ(ruby.candidates().front(), "Corundum");
+    EXPECT_EQ(ruby.cell(0, 0), "100%");
+    EXPECT_EQ(ruby.cell(1, 0), "Corundum\nPink sapphire, Ruby");
+    EXPECT_EQ(ruby.cell(2, 0), "Fits every reading");
+    const auto green = cellTextColor(ruby.window.tbl_bestMatches, 0, 0);
+    EXPECT_TRUE(green && green->green > green->red);
+    // Once something fits, the stones that do not are left out: Almandine's range starts 0.013
+    // above the low reading, and a spread of 0.008 is no singly refractive stone's.
+    EXPECT_EQ(ruby.candidates(), Texts{"Corundum"});
+    EXPECT_TRUE(b.alerts().empty());
+    EXPECT_TRUE(ruby.alerts().empty());
+}
+
+TEST(BestMatches, ABadEntryShowsANoteAndNeverAnAlert) {
+    Bench b;
+    b.rubyReadings();
+    b.type(b.window.txt_leftRIHigh, "x");
+    EXPECT_EQ(b.note(), "High R.I. \"1.770x\" is not a number.");
+    EXPECT_TRUE(b.candidates().empty());
+    b.leave();
+    EXPECT_EQ(b.window.txt_leftRIHigh.text(), "1.770x"); // kept for the user to mend
+    EXPECT_TRUE(b.alerts().empty());
+}
+
+TEST(BestMatches, TheStrictSearchKeepsItsAlertsAndItsList) {
+    Bench b;
+    b.rubyReadings();
+    b.click(b.window.check_sg);
+    const std::string shown = b.window.txt_RI.text();
+    b.click(b.window.btn_search);
+    EXPECT_EQ(b.alerts(), Texts{"Please enter S.G. value!"});
+    // The ranking leaves the empty S.G. out; the listed stones stay as they were.
+    EXPECT_EQ(b.candidates().front(), "Corundum");
+    EXPECT_EQ(b.window.tableView.numberOfRows(), 5);
+    EXPECT_EQ(b.window.txt_RI.text(), shown);
+}
+
+TEST(BestMatches, ACandidateClickedShowsItsRecordInTheDetailPanel) {
+    Bench b;
+    b.rubyReadings();
+    b.window.tbl_bestMatches.clickRow(0);
+    EXPECT_EQ(b.window.tbl_bestMatches.selectedRow(), 0);
+    EXPECT_EQ(b.window.txt_stroneFamily.text(), "Corundum");
+    EXPECT_EQ(b.window.txt_sg.text(), "3.95-4.03"); // the group's first, Pink sapphire
+}
+
+TEST(BestMatches, OverTheLimitLeavesTheReadingsOut) {
+    Bench b;
+    b.rubyReadings();
+    b.click(b.window.check_overTheLimit);
+    EXPECT_EQ(b.candidates().front(), "Almandine");
+    EXPECT_EQ(b.cell(2, 0), "Fits every reading");
+    b.click(b.window.check_overTheLimit);
+    EXPECT_EQ(b.candidates().front(), "Corundum");
+}
+
+TEST(BestMatches, WeighingFillsTheSgEntryOrNotesTheImpossibleWeights) {
+    Bench b;
+    EXPECT_FALSE(b.window.txt_weightAir.isEnabled()); // with S.G. off
+    b.click(b.window.check_sg);
+    b.type(b.window.txt_weightAir, "1.800");
+    EXPECT_EQ(b.window.txt_leftSG.text(), "");
+    b.type(b.window.txt_weightWater, "1.350");
+    // 0.45 ct lost in water: the weights' last digits allow one decimal.
+    EXPECT_EQ(b.window.txt_leftSG.text(), "4.0");
+    EXPECT_EQ(b.candidates().front(), "Corundum");
+
+    b.type(b.window.txt_weightAir, "0"); // 1.8000 in air: the same S.G., one decimal more
+    EXPECT_EQ(b.window.txt_leftSG.text(), "4.00");
+    while (!b.window.txt_weightAir.text().empty()) {
+        b.deleteBackward();
+    }
+    b.type(b.window.txt_weightAir, "1");
+    EXPECT_EQ(b.note(), "The weight in water must be below the weight in air: water buoys the "
+                        "stone up.");
+    EXPECT_TRUE(b.candidates().empty());
+
+    // Switching S.G. off empties and locks the weights with it.
+    b.click(b.window.check_sg);
+    EXPECT_EQ(b.window.txt_weightWater.text(), "");
+    EXPECT_FALSE(b.window.txt_weightWater.isEnabled());
+    EXPECT_TRUE(b.alerts().empty());
+}
+
+TEST(BestMatches, ResetEmptiesTheViewsInputsAndItsList) {
+    Bench b;
+    b.rubyReadings();
+    b.click(b.window.check_overTheLimit);
+    b.click(b.window.btn_reset);
+    EXPECT_EQ(b.window.txt_leftRIHigh.text(), "");
+    EXPECT_FALSE(b.window.txt_leftRIHigh.isEnabled());
+    EXPECT_EQ(b.window.check_overTheLimit.state(), ButtonState::Off);
+    EXPECT_TRUE(b.window.check_overTheLimit.isEnabled());
+    EXPECT_TRUE(b.candidates().empty());
+}
+
+TEST(BestMatches, EnterListsThemFromTheLiveReadingAndARotationSeriesGivesBothReadings) {
+    WindowHarness h({.rows = reference});
+    h.controller.enterRotationReadings(1.762, 1.770);
+    EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.762");
+    EXPECT_EQ(h.window.txt_leftRIHigh.text(), "1.770");
+    EXPECT_EQ(h.window.check_RI.state(), ButtonState::On);
+    EXPECT_EQ(cellText(h.window.tbl_bestMatches, 1, 0).value_or("").substr(0, 8), "Corundum");
+    EXPECT_TRUE(h.alerts().empty());
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,44 @@
+#include "tests/ui/qt/shell_fixture.h"
+
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+namespace {
+
+using ::testing::IsEmpty;
+using BestMatchesWindow = ShellTest;
+
+TEST_F(BestMatchesWindow, ListTheCandidatesAfterASearchAndShowTheOneClicked) {
+    open();
+    auto* tabs = widget<QTabWidget>("resultsTabs");
+    tabs->setCurrentWidget(widget("tab_bestMatches"));
+    click("bvtn_dictionary");
+    click("check_RI");
+    type("txt_leftRIReading", "1.762");
+    click("btn_search");
+
+    auto* table = widget<QTableView>("tbl_bestMatches");
+    QAbstractItemModelTester tester(table->model(),
+                                    QAbstractItemModelTester::FailureReportingMode::Fatal);
+    ASSERT_GE(table->model()->rowCount(), 1);
+    EXPECT_EQ(table->model()->index(0, 0).data(), "100%");
+    EXPECT_EQ(table->model()->index(0, 1).data(), "Ruby");
+    EXPECT_EQ(table->model()->index(0, 2).data(), "Fits every reading");
+    // The fit figure is meant to be read from across the bench.
+    EXPECT_GE(table->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 24);
+    EXPECT_EQ(table->model()->index(0, 0).data(Qt::ForegroundRole).value<QColor>(),
+              QColor(30, 123, 52)); // green: it fits every reading
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+
+    const QRect cell = table->visualRect(table->model()->index(0, 1));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+    settle();
+    EXPECT_EQ(text("txt_sg"), "3.97-4.05");
+    EXPECT_EQ(text("txt_hardness"), "9-9");
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,73 @@
+#include "tests/ui/qt/shell_fixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+class Clicks : public ShellTest {
+protected:
+    // The dictionary tab with S.G. ticked and its empty entry holding the keyboard.
+    void focusEmptySgEntry() {
+        click("bvtn_dictionary");
+        click("check_sg");
+        type("txt_leftSG", "");
+    }
+};
+
+TEST_F(Clicks, SearchClickedFromAnEmptyFocusedEntryRunsTheSearch) {
+    open();
+    focusEmptySgEntry();
+    ASSERT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
+    click("btn_search");
+    EXPECT_THAT(informativeTexts(), ElementsAre("Please enter S.G. value!"));
+    EXPECT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
+}
+
+TEST_F(Clicks, ACheckBoxClickedFromAnEmptyFocusedEntryToggles) {
+    open();
+    focusEmptySgEntry();
+    click("check_hardness");
+    EXPECT_TRUE(widget<QCheckBox>("check_hardness")->isChecked());
+    EXPECT_TRUE(widget("txt_leftHardness")->isEnabled());
+    click("check_hardness");
+    EXPECT_FALSE(widget<QCheckBox>("check_hardness")->isChecked());
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+
+    // Leaving the entry for another entry still ends its editing with the check.
+    type("txt_leftSG", "");
+    click("check_hardness");
+    type("txt_leftHardness", "7");
+    EXPECT_THAT(informativeTexts(), ElementsAre("Please insert number only!"));
+}
+
+TEST_F(Clicks, ATabChangeLockingTheFocusedEntryChecksNothing) {
+    open();
+    focusEmptySgEntry();
+    click("btn_RIReading"); // empties and locks the entry that holds the keyboard
+    click("bvtn_dictionary");
+    EXPECT_THAT(alerts.alerts, IsEmpty());
+}
+
+TEST_F(Clicks, ButtonsCheckBoxesAndPopUpsStillTakeTheKeyboardByTab) {
+    open();
+    for (const char* name : {"btn_search", "btn_enter", "btn_reset", "check_sg",
+                             "check_overTheLimit", "btn_color", "btn_stonesList"}) {
+        EXPECT_EQ(widget(name)->focusPolicy(), Qt::TabFocus) << name;
+    }
+    click("bvtn_dictionary");
+    click("check_sg");
+    type("txt_leftSG", "2.65");
+    pressKey(Qt::Key_Tab);
+    EXPECT_NE(QApplication::focusWidget(), widget("txt_leftSG"));
+}
+
+} // namespace
+} // namespace velmora::test
