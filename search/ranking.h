@@ -34,8 +34,8 @@
 //      density outside a material's range more often belongs to another material;
 //   2. under an edge read to the third decimal, a single crystal or a glass before an aggregate
 //      or organic material ("not measurable" birefringence), which gives a spot reading to two
-//      decimals, not a sharp edge; two readings more than 0.100 apart are a carbonate's birefringence blink, which an
-//      aggregate shows too, so they do not count as sharp;
+//      decimals, not a sharp edge; two readings more than 0.100 apart are a carbonate's
+//      birefringence blink, which an aggregate shows too, so they do not count as sharp;
 //   3. the narrower ranges: breadth = sum of w_p * ln(1 + width_p / (2.5 t_p)) over the ranges the
 //      readings were compared with. A reading is likelier from a narrow range than from a wide
 //      one (a reading inside quartz's 0.009 says more than one inside a shell's 0.155): a range

@@ -183,10 +183,10 @@ TEST(RankCommand, EmptyEntriesRaiseTheWindowsAlertsAndBadValuesAreUsageErrors) {
         EXPECT_EQ(r.out, "");
     }
     for (const std::vector<std::string>& args : {std::vector<std::string>{"--otl", "--ri", "1.5"},
-                                                {"--ri-high", "1.6"},
-                                                {"--sg", "2", "--weights", "1,0.5"},
-                                                {"--limit", "0"},
-                                                {"--color", "Gray"}}) {
+                                                 {"--ri-high", "1.6"},
+                                                 {"--sg", "2", "--weights", "1,0.5"},
+                                                 {"--limit", "0"},
+                                                 {"--color", "Gray"}}) {
         EXPECT_EQ(rank(file, args).status, 2) << testing::PrintToString(args);
     }
 }
