@@ -7,6 +7,7 @@
 #include "foundation/bundle.h"
 #include "foundation/c_number.h"
 #include "foundation/text.h"
+#include "tests/support/split.h"
 
 #include <algorithm>
 #include <fstream>
@@ -272,8 +273,8 @@ TEST(IdentificationExamples, EveryLineIsAReadingOfASpeciesInTheTable) {
     std::map<std::string, int> perSpecies;
     while (std::getline(file, line)) {
         std::vector<std::string> cell;
-        for (const auto part : std::views::split(line, ',')) {
-            cell.emplace_back(part.begin(), part.end());
+        for (const std::string_view part : test::splitAt(line, ',')) {
+            cell.emplace_back(part);
         }
         ASSERT_EQ(cell.size(), 10u) << line;
         ++lines;

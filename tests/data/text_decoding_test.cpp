@@ -66,7 +66,9 @@ TEST(IsValidUtf8, ASequenceIsJudgedWhereverItFallsAfterALongAsciiRun) {
     };
     for (const auto& [sequence, valid] : sequences) {
         for (std::size_t at = 0; at <= run.size(); ++at) {
-            const std::string s = run.substr(0, at) + sequence + run;
+            std::string s = run.substr(0, at);
+            s += sequence;
+            s += run;
             EXPECT_EQ(isValidUtf8(s), valid) << "sequence of " << sequence.size() << " at " << at;
         }
         // Cut short by the end of the text.

@@ -44,7 +44,9 @@ TEST(Text, ANewlineIsFoundWhereverItFallsInALongLine) {
     for (const std::string nl :
          {"\n", "\v", "\f", "\r", "\xC2\x85", "\xE2\x80\xA8", "\xE2\x80\xA9"}) {
         for (std::size_t at = 0; at <= before.size(); ++at) {
-            const std::string s = before.substr(0, at) + nl + after;
+            std::string s = before.substr(0, at);
+            s += nl;
+            s += after;
             EXPECT_EQ(splitLines(s), (std::vector<std::string_view>{before.substr(0, at), after}))
                 << "newline of " << nl.size() << " bytes at " << at;
         }

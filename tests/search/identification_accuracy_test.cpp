@@ -7,6 +7,7 @@
 #include "foundation/bundle.h"
 #include "foundation/c_number.h"
 #include "search/ranking.h"
+#include "tests/support/split.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -40,8 +41,8 @@ std::vector<Example> examples(double riShift) {
     std::getline(file, line); // the header
     while (std::getline(file, line)) {
         std::vector<std::string> cell;
-        for (const auto part : std::views::split(line, ',')) {
-            cell.emplace_back(part.begin(), part.end());
+        for (const std::string_view part : test::splitAt(line, ',')) {
+            cell.emplace_back(part);
         }
         Example e{cell.at(0), line, {}};
         e.inputs.overTheLimit = cell.at(4) == "1";

@@ -64,7 +64,7 @@ TEST(RankingForm, ReadsTheTickedEntriesAndNotesWhatItCannotUse) {
 }
 
 TEST(RankingForm, TakesTheTwoReadingsInEitherOrderAndAHighOneAloneAsTheReading) {
-    const auto spread = [](RankingForm form) {
+    const auto spread = [](const RankingForm& form) {
         const auto in = readRankingForm(form, point).inputs;
         return std::pair(in->ri ? in->ri->value : 0, in->riHigh ? in->riHigh->value : 0);
     };

@@ -5,6 +5,7 @@
 #include "foundation/bundle.h"
 #include "foundation/c_number.h"
 #include "search/property_search.h"
+#include "tests/support/split.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -25,21 +26,6 @@ const StoneList& referenceSet() {
         return arr_stonesGlobal;
     }();
     return set;
-}
-
-// The names of a list written "a|b|c"; none in an empty one. (Not std::views::split, which
-// clang-tidy's clang 14 cannot compile with this standard library.)
-std::vector<std::string_view> splitAtBars(std::string_view list) {
-    std::vector<std::string_view> names;
-    for (std::size_t start = 0; !list.empty();) {
-        const std::size_t bar = list.find('|', start);
-        names.push_back(list.substr(start, bar - start));
-        if (bar == std::string_view::npos) {
-            break;
-        }
-        start = bar + 1;
-    }
-    return names;
 }
 
 double middle(const std::string& range) {
@@ -108,12 +94,12 @@ TEST(ReferenceIdentification, SeparationsAGemmologistReliesOn) {
                 return exact ? field == wanted : field.find(wanted) != std::string_view::npos;
             });
         };
-        for (const std::string_view n : splitAtBars(c.listed)) {
+        for (const std::string_view n : test::splitAt(c.listed, '|')) {
             const auto inTable = count(n, referenceSet(), true);
             EXPECT_TRUE(inTable > 0 && count(n, found, true) == inTable)
                 << n << " missing at R.I. " << c.ri << ", S.G. " << c.sg;
         }
-        for (const std::string_view n : splitAtBars(c.ruledOut)) {
+        for (const std::string_view n : test::splitAt(c.ruledOut, '|')) {
             EXPECT_TRUE(n.empty() || count(n, found, false) == 0)
                 << n << " listed at R.I. " << c.ri << ", S.G. " << c.sg;
         }
