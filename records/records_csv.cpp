@@ -26,19 +26,6 @@ void field(std::ostream& out, std::string_view text, bool first) {
     out << '"';
 }
 
-std::string optionalNumber(const std::optional<double>& value) {
-    return value ? cNumberText(*value) : std::string();
-}
-
-// "1.544; 1.553"
-std::string readings(const std::vector<double>& values) {
-    std::string text;
-    for (const double value : values) {
-        text += (text.empty() ? "" : "; ") + cNumberText(value);
-    }
-    return text;
-}
-
 // "12 Quartz 100 %; 40 Glass 80 %", as the results listed them.
 std::string candidates(const std::vector<RecordedCandidate>& list) {
     std::string text;
@@ -57,6 +44,21 @@ std::string cNumberText(double value) {
     return std::string(text.data(), end);
 }
 
+std::string cNumberText(const std::optional<double>& value) {
+    return value ? cNumberText(*value) : std::string();
+}
+
+std::string cNumbersText(const std::vector<double>& values, std::string_view separator) {
+    std::string text;
+    for (const double value : values) {
+        if (!text.empty()) {
+            text += separator;
+        }
+        text += cNumberText(value);
+    }
+    return text;
+}
+
 void writeRecordsCsv(std::ostream& out, std::span<const StoneRecord> records) {
     bool first = true;
     for (const char* name : header) {
@@ -69,15 +71,15 @@ void writeRecordsCsv(std::ostream& out, std::span<const StoneRecord> records) {
             std::to_string(r.id),
             r.label,
             isoTimeText(r.examined),
-            readings(r.ri.values),
-            optionalNumber(r.ri.low),
-            optionalNumber(r.ri.high),
-            optionalNumber(r.ri.birefringence),
+            cNumbersText(r.ri.values, "; "),
+            cNumberText(r.ri.low),
+            cNumberText(r.ri.high),
+            cNumberText(r.ri.birefringence),
             r.ri.verdict,
-            optionalNumber(r.sg),
+            cNumberText(r.sg),
             r.weighing ? cNumberText(r.weighing->inAir) : std::string(),
             r.weighing ? cNumberText(r.weighing->inWater) : std::string(),
-            optionalNumber(r.hardness),
+            cNumberText(r.hardness),
             r.color,
             candidates(r.candidates),
             r.conclusion,

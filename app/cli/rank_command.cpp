@@ -56,18 +56,11 @@ void print(const Context& context, const Ranking& ranking, const RankingInputs& 
 }
 
 int rank(const Context& context, const RankOptions& options) {
-    if (const auto missing = missingEntry(options)) {
-        *context.err << *missing << '\n';
-        return exitAlert;
+    RankingInputs inputs;
+    if (const auto refused = readEntries(context, options, "rank", inputs)) {
+        return *refused;
     }
     const std::string sep = separatorOf(context);
-    RankingInputs inputs;
-    try {
-        inputs = inputsOf(options, sep);
-    } catch (const BadValue& bad) {
-        *context.err << "rank: " << bad.message << '\n';
-        return exitUsage;
-    }
     StoneList arr_stones;
     StoneList arr_stonesGlobal;
     if (!loadReferenceSet(context.referencePath(), *context.err, arr_stones, arr_stonesGlobal)) {

@@ -7,6 +7,8 @@
 #include "search/number_entry.h"
 #include "ui/stone_display.h"
 
+#include <ostream>
+
 namespace velmora::cli {
 
 std::string separatorOf(const Context& context) {
@@ -15,6 +17,11 @@ std::string separatorOf(const Context& context) {
 }
 
 namespace {
+
+// A value the user gave that cannot be used: a usage error.
+struct BadValue {
+    std::string message;
+};
 
 // Read as the window reads a numeric entry: digits and the decimal separator only.
 Measured number(const std::string& option, const std::string& typed, const std::string& sep) {
@@ -45,8 +52,6 @@ Measured specificGravity(const std::string& typed, const std::string& sep) {
     require(result.sg.has_value(), "--weights: " + result.problem);
     return *result.sg;
 }
-
-} // namespace
 
 RankingInputs inputsOf(const RankOptions& o, const std::string& sep) {
     RankingInputs in;
@@ -88,6 +93,23 @@ std::optional<std::string> missingEntry(const RankOptions& o) {
         if (value && value->empty()) {
             return message;
         }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<int> readEntries(const Context& context, const RankOptions& options,
+                               const std::string& command, RankingInputs& inputs) {
+    if (const auto missing = missingEntry(options)) {
+        *context.err << *missing << '\n';
+        return exitAlert;
+    }
+    try {
+        inputs = inputsOf(options, separatorOf(context));
+    } catch (const BadValue& bad) {
+        *context.err << command << ": " << bad.message << '\n';
+        return exitUsage;
     }
     return std::nullopt;
 }

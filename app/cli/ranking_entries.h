@@ -6,6 +6,7 @@
 #include "app/cli/cli.h"
 #include "search/ranking.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,17 +25,12 @@ struct RankOptions {
     int limit = 10;
 };
 
-// A value the user gave that cannot be used: a usage error.
-struct BadValue {
-    std::string message;
-};
-
 // The decimal separator entries are typed with.
 std::string separatorOf(const Context& context);
-// Throws BadValue.
-RankingInputs inputsOf(const RankOptions& options, const std::string& separator);
-// The window's presence checks: the alert for a criterion switched on with nothing typed.
-std::optional<std::string> missingEntry(const RankOptions& options);
+// Checks the entries and reads them as the window does. When they cannot be used: the exit
+// status, with the reason on standard error after the command's name.
+std::optional<int> readEntries(const Context& context, const RankOptions& options,
+                               const std::string& command, RankingInputs& inputs);
 // The catalogue's colour names, for --color.
 std::vector<std::string> colorNames();
 

@@ -68,16 +68,9 @@ StoneRecord recordOf(const RecordsOptions& o, const RankingInputs& in, const Ran
 }
 
 int add(const Context& context, const RecordsOptions& options) {
-    if (const auto missing = missingEntry(options.readings)) {
-        *context.err << *missing << '\n';
-        return exitAlert;
-    }
     RankingInputs inputs;
-    try {
-        inputs = inputsOf(options.readings, separatorOf(context));
-    } catch (const BadValue& bad) {
-        *context.err << "records add: " << bad.message << '\n';
-        return exitUsage;
+    if (const auto refused = readEntries(context, options.readings, "records add", inputs)) {
+        return *refused;
     }
     StoneList arr_stones;
     StoneList arr_stonesGlobal;
@@ -121,30 +114,18 @@ int list(const Context& context, const RecordsOptions& options) {
     return exitSuccess;
 }
 
-std::string joined(const std::vector<double>& values) {
-    std::string text;
-    for (const double value : values) {
-        text += (text.empty() ? "" : " ") + cNumberText(value);
-    }
-    return text;
-}
-
-std::string optionalNumber(const std::optional<double>& value) {
-    return value ? cNumberText(*value) : std::string();
-}
-
 // Text: one field a line, NAME<TAB>VALUE, a candidate a line; JSON: one object.
 void printDetail(const Context& context, const StoneRecord& r) {
     Fields fields = {{"id", std::to_string(r.id)},
                      {"label", r.label},
                      {"date", isoTimeText(r.examined)},
-                     {"ri_readings", joined(r.ri.values)},
-                     {"ri_low", optionalNumber(r.ri.low)},
-                     {"ri_high", optionalNumber(r.ri.high)},
-                     {"birefringence", optionalNumber(r.ri.birefringence)},
+                     {"ri_readings", cNumbersText(r.ri.values, " ")},
+                     {"ri_low", cNumberText(r.ri.low)},
+                     {"ri_high", cNumberText(r.ri.high)},
+                     {"birefringence", cNumberText(r.ri.birefringence)},
                      {"verdict", r.ri.verdict},
-                     {"sg", optionalNumber(r.sg)},
-                     {"hardness", optionalNumber(r.hardness)},
+                     {"sg", cNumberText(r.sg)},
+                     {"hardness", cNumberText(r.hardness)},
                      {"color", r.color}};
     for (const auto& c : r.candidates) {
         fields.emplace_back("candidate",

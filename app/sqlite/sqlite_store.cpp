@@ -3,6 +3,7 @@
 #include "app/sqlite/data_model.h"
 #include "app/sqlite/statement.h"
 
+#include <charconv>
 #include <fstream>
 #include <sqlite3.h>
 #include <sstream>
@@ -38,7 +39,17 @@ std::string firstValue(sqlite3* database, const char* sql, int& status) {
     return status == SQLITE_ROW ? query.text(0) : std::string();
 }
 
-// Looks at the file without writing to it, so that one not ours can be kept aside as it was.
+// The integer the query gives, -1 for none.
+int integerValue(sqlite3* database, const char* sql) {
+    int status = SQLITE_OK;
+    const std::string text = firstValue(database, sql, status);
+    int value = -1;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+// Reads the file without writing to it, so that one not ours can be kept aside as it was. (Open
+// for writing all the same: a store in WAL mode cannot always be read by a read-only connection.)
 Examined examine(const std::filesystem::path& file) {
     std::error_code error;
     if (!std::filesystem::exists(file, error) || std::filesystem::file_size(file, error) == 0) {
@@ -46,7 +57,7 @@ Examined examine(const std::filesystem::path& file) {
     }
     sqlite3* opened = nullptr;
     const int status =
-        sqlite3_open_v2(file.string().c_str(), &opened, SQLITE_OPEN_READONLY, nullptr);
+        sqlite3_open_v2(file.string().c_str(), &opened, SQLITE_OPEN_READWRITE, nullptr);
     const std::unique_ptr<sqlite3, int (*)(sqlite3*)> database(opened, sqlite3_close);
     if (status != SQLITE_OK) {
         return Unopenable{opened ? sqlite3_errmsg(opened) : "out of memory"};
@@ -69,7 +80,7 @@ Examined examine(const std::filesystem::path& file) {
     if (tables != "0" && model != "Velmora") {
         return NotOurs{"the database of another program"};
     }
-    return Usable{std::stoi(firstValue(opened, "PRAGMA user_version", step))};
+    return Usable{integerValue(opened, "PRAGMA user_version")};
 }
 
 // Beside the file, a name not yet taken: Velmora.unreadable-1.sqlite, -2, ...
@@ -186,8 +197,10 @@ std::optional<std::string> SqliteStore::open() {
 }
 
 std::optional<std::string> SqliteStore::migrate(const std::vector<std::string>& steps) {
-    int status = SQLITE_OK;
-    const int version = std::stoi(firstValue(database_.get(), "PRAGMA user_version", status));
+    const int version = integerValue(database_.get(), "PRAGMA user_version");
+    if (version < 0) {
+        return failure("cannot read the version of");
+    }
     const int latest = static_cast<int>(steps.size());
     if (version >= latest) {
         return std::nullopt;
