@@ -21,6 +21,11 @@ public:
     // The record with this id, or nothing when there is none.
     virtual std::optional<std::string> find(RecordId id,
                                             std::optional<StoneRecord>& record) const = 0;
+    // Writes the record's notes and conclusion, the only parts of a record that are edited: the
+    // readings and the candidates stay as they were taken.
+    virtual std::optional<std::string> update(const StoneRecord& record) = 0;
+    // Removes the record, whole; the caller has had it confirmed.
+    virtual std::optional<std::string> remove(RecordId id) = 0;
 };
 
 } // namespace velmora

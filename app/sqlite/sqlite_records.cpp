@@ -144,6 +144,36 @@ std::optional<std::string> SqliteStore::add(StoneRecord& record) {
     return std::nullopt;
 }
 
+std::optional<std::string> SqliteStore::change(const char* sql,
+                                               const std::function<void(Statement&)>& bind,
+                                               const std::string& what) {
+    if (auto failed = beginChanges()) {
+        return failed;
+    }
+    Statement statement(database_.get(), sql);
+    bind(statement);
+    if (!statement.run()) {
+        return failure(what);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> SqliteStore::update(const StoneRecord& record) {
+    return change(
+        "UPDATE stone_record SET notes = ?2, conclusion = ?3 WHERE id = ?1",
+        [&](Statement& s) {
+            s.bind(1, record.id).bind(2, record.notes).bind(3, record.conclusion);
+        },
+        "cannot change a record in");
+}
+
+// The readings and candidates go with it (ON DELETE CASCADE).
+std::optional<std::string> SqliteStore::remove(RecordId id) {
+    return change(
+        "DELETE FROM stone_record WHERE id = ?1", [&](Statement& s) { s.bind(1, id); },
+        "cannot remove a record from");
+}
+
 std::optional<std::string> SqliteStore::list(std::vector<StoneRecord>& records) const {
     records.clear();
     if (!database_) {

@@ -11,10 +11,15 @@
 #include "records/record_store.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 
 struct sqlite3;
+
+namespace velmora {
+class Statement;
+}
 
 namespace velmora {
 
@@ -33,6 +38,8 @@ public:
     std::optional<std::string> add(StoneRecord& record) override;
     std::optional<std::string> list(std::vector<StoneRecord>& records) const override;
     std::optional<std::string> find(RecordId id, std::optional<StoneRecord>& record) const override;
+    std::optional<std::string> update(const StoneRecord& record) override;
+    std::optional<std::string> remove(RecordId id) override;
 
 private:
     struct Close {
@@ -44,6 +51,9 @@ private:
     bool keepAside(const std::string& why, std::string& message);
     std::optional<std::string> migrate(const std::vector<std::string>& steps);
     std::optional<std::string> beginChanges();
+    // Runs the statement made by bind as one change; what went wrong, if anything.
+    std::optional<std::string> change(const char* sql, const std::function<void(Statement&)>& bind,
+                                      const std::string& what);
     std::optional<std::string> failure(const std::string& what) const;
 
     std::filesystem::path file_;

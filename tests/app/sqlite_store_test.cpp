@@ -141,6 +141,41 @@ TEST(SqliteStore, AddedRecordsAreChangesUntilSavedAndComeBackWholeNewestFirst) {
     EXPECT_FALSE(found);
 }
 
+TEST(SqliteStore, EditsOnlyNotesAndConclusionAndRemovesARecordWhole) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    SqliteStore store(file, dataModel);
+    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    StoneRecord kept = fullRecord();
+    StoneRecord removed = fullRecord();
+    ASSERT_EQ(store.add(kept), std::nullopt);
+    ASSERT_EQ(store.add(removed), std::nullopt);
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    StoneRecord edited = kept;
+    edited.notes = "inclusions: needles";
+    edited.conclusion = "Citrine";
+    edited.label = "not edited";
+    edited.candidates.clear();
+    EXPECT_EQ(store.update(edited), std::nullopt);
+    EXPECT_EQ(store.remove(removed.id), std::nullopt);
+    EXPECT_TRUE(store.hasChanges());
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    kept.notes = edited.notes;
+    kept.conclusion = edited.conclusion;
+    std::vector<StoneRecord> listed;
+    ASSERT_EQ(store.list(listed), std::nullopt);
+    ASSERT_EQ(listed.size(), 1u);
+    expectSame(listed[0], kept);
+    EXPECT_EQ(
+        sql(file, "SELECT count(*) FROM candidate WHERE record_id = " + std::to_string(removed.id)),
+        "0");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading WHERE record_id = " +
+                            std::to_string(removed.id)),
+              "0");
+}
+
 TEST(SqliteStore, BringsAStoreOfTheReleasedVersion1ToTheLatestKeepingItsData) {
     TempDir dir;
     const auto file = dir.path() / "Velmora.sqlite";
