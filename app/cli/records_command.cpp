@@ -180,7 +180,7 @@ int exportCsv(const Context& context, const RecordsOptions& options) {
     return exitSuccess;
 }
 
-void addAddCommand(CLI::App& records, Context& context, std::shared_ptr<RecordsOptions> o) {
+void addAddCommand(CLI::App& records, Context& context, const std::shared_ptr<RecordsOptions>& o) {
     auto* add = records.add_subcommand(
         "add", "Rank the readings and keep them, with the candidates as they stand, as a new "
                "record; prints its id");
