@@ -14,7 +14,8 @@ void AppDelegate::applicationWillTerminate() {
 PersistentStore& AppDelegate::persistentContainer() {
     if (!persistentContainer_) {
         persistentContainer_ = makeContainer_();
-        // Nothing is kept in the container yet, so the application carries on without it.
+        // The application carries on without its records: the log tells why (a file kept
+        // aside and started anew is usable all the same).
         if (const auto error = persistentContainer_->loadPersistentStores()) {
             log_.error("Unresolved error " + *error);
         }

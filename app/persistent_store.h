@@ -1,8 +1,10 @@
 #pragma once
 
 // The application's persistent container: a store that is opened on first use, tells whether it
-// holds changes not yet written, and writes them. Nothing is stored in it yet; it is kept so that
-// a later version can, and so that quitting never loses what it would hold.
+// holds changes not yet written, and writes them. It keeps the stone records, so that quitting
+// never loses one.
+
+#include "records/record_store.h"
 
 #include <optional>
 #include <string>
@@ -19,6 +21,8 @@ public:
     virtual bool hasChanges() const = 0;
     // Writes the changes. What went wrong, if anything.
     virtual std::optional<std::string> save() = 0;
+    // The records it keeps; nothing while it is not open.
+    virtual RecordStore* records() { return nullptr; }
 };
 
 } // namespace velmora

@@ -53,6 +53,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addShowCommand(app, context);
     addReadCommand(app, context);
     addRankCommand(app, context);
+    addRecordsCommand(app, context);
 
     try {
         app.parse(argc, argv);

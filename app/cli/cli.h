@@ -52,6 +52,7 @@ void addIdentifyCommand(CLI::App& app, Context& context);
 void addShowCommand(CLI::App& app, Context& context);
 void addReadCommand(CLI::App& app, Context& context);
 void addRankCommand(CLI::App& app, Context& context);
+void addRecordsCommand(CLI::App& app, Context& context);
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 

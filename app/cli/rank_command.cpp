@@ -1,13 +1,10 @@
 #include "app/cli/cli.h"
-#include "data/color_catalogue.h"
+#include "app/cli/ranking_entries.h"
 #include "data/reference_loader.h"
-#include "foundation/c_number.h"
 #include "foundation/locale.h"
 #include "foundation/printable.h"
 #include "foundation/text.h"
 #include "search/deviation_text.h"
-#include "search/hydrostatic.h"
-#include "search/number_entry.h"
 #include "search/ranking.h"
 #include "ui/stone_display.h"
 
@@ -20,102 +17,6 @@
 namespace velmora::cli {
 namespace {
 
-struct RankOptions {
-    std::optional<std::string> ri;
-    std::optional<std::string> riHigh;
-    bool otl = false;
-    std::optional<std::string> sg;
-    std::optional<std::string> weights;
-    std::optional<std::string> hardness;
-    std::optional<std::string> color;
-    std::optional<std::string> name;
-    int limit = 10;
-};
-
-// A value the user gave that cannot be used: a usage error.
-struct BadValue {
-    std::string message;
-};
-
-std::string separatorOf(const Context& context) {
-    std::string separator = context.locale().decimalSeparator();
-    return separator.empty() ? "." : separator;
-}
-
-// Read as the window reads a numeric entry: digits and the decimal separator only.
-Measured number(const std::string& option, const std::string& typed, const std::string& sep) {
-    const std::string c = text::replaceAll(typed, sep, ".");
-    const auto value = isNumberOnly(typed, sep) ? parseCNumber(c) : std::nullopt;
-    if (!value) {
-        throw BadValue{option + ": \"" + typed + "\" is not a number written with \"" + sep +
-                       "\" as decimal separator"};
-    }
-    return {*value, precisionOf(c)};
-}
-
-void require(bool holds, const std::string& message) {
-    if (!holds) {
-        throw BadValue{message};
-    }
-}
-
-// With the comma as decimal separator the two weights are parted by ";", as spreadsheets do.
-Measured specificGravity(const std::string& typed, const std::string& sep) {
-    const auto cut = typed.find(sep == "," ? ';' : ',');
-    require(cut != std::string::npos, "--weights: give the weight in air and the weight in "
-                                      "water, parted by \"" +
-                                          std::string(sep == "," ? ";" : ",") + "\"");
-    const HydrostaticResult result =
-        specificGravityFromWeights(number("--weights", typed.substr(0, cut), sep),
-                                   number("--weights", typed.substr(cut + 1), sep));
-    require(result.sg.has_value(), "--weights: " + result.problem);
-    return *result.sg;
-}
-
-RankingInputs inputsOf(const RankOptions& o, const std::string& sep) {
-    RankingInputs in;
-    in.overTheLimit = o.otl;
-    if (o.ri) {
-        in.ri = number("--ri", *o.ri, sep);
-        require(in.ri->value >= 1, "--ri: a refractive index is 1 or more");
-    }
-    if (o.riHigh) {
-        in.riHigh = number("--ri-high", *o.riHigh, sep);
-        require(in.riHigh->value >= in.ri->value, "--ri-high: the high reading must not lie "
-                                                  "below the --ri reading");
-    }
-    if (o.sg) {
-        in.sg = number("--sg", *o.sg, sep);
-        require(in.sg->value > 0, "--sg: a specific gravity is above zero");
-    }
-    if (o.weights) {
-        in.sg = specificGravity(*o.weights, sep);
-    }
-    if (o.hardness) {
-        in.hardness = number("--hardness", *o.hardness, sep);
-        require(in.hardness->value >= 1 && in.hardness->value <= 10,
-                "--hardness: Mohs hardness runs from 1 to 10");
-    }
-    in.color = o.color;
-    in.name = o.name;
-    return in;
-}
-
-// The window's presence checks: a criterion switched on with nothing typed.
-std::optional<std::string> missingEntry(const RankOptions& o) {
-    const std::pair<const std::optional<std::string>&, const char*> checks[] = {
-        {o.ri, "Please enter R.I. value!"},           {o.riHigh, "Please enter R.I. value!"},
-        {o.sg, "Please enter S.G. value!"},           {o.weights, "Please enter S.G. value!"},
-        {o.hardness, "Please enter Hardness value!"}, {o.name, "Please enter name of stone!"},
-    };
-    for (const auto& [value, message] : checks) {
-        if (value && value->empty()) {
-            return message;
-        }
-    }
-    return std::nullopt;
-}
-
 void print(const Context& context, const Ranking& ranking, const RankingInputs& in,
            const std::string& sep, int limit) {
     static constexpr const char* keys[propertyCount] = {"ri", "birefringence", "sg", "hardness",
@@ -124,15 +25,8 @@ void print(const Context& context, const Ranking& ranking, const RankingInputs& 
     for (std::size_t i = 0; i < shown; ++i) {
         const Candidate& c = ranking.candidates[i];
         const RankedStone& lead = c.lead();
-        const std::string number = stoneNumberText(lead.stone->StoneID, static_cast<int>(i));
-        std::string name(c.name);
-        if (c.members.size() > 1) {
-            std::string varieties;
-            for (const auto& m : c.members) {
-                varieties += (varieties.empty() ? "" : ", ") + m.stone->StoneName;
-            }
-            name += ": " + varieties;
-        }
+        const std::string number = candidateNumber(c, i);
+        const std::string name = candidateName(c);
         const std::string deviations =
             deviationText(lead, in.overTheLimit, !ranking.anyWithinTolerance, sep);
         if (!context.json) {
@@ -164,18 +58,11 @@ void print(const Context& context, const Ranking& ranking, const RankingInputs& 
 }
 
 int rank(const Context& context, const RankOptions& options) {
-    if (const auto missing = missingEntry(options)) {
-        *context.err << *missing << '\n';
-        return exitAlert;
+    RankingInputs inputs;
+    if (const auto refused = readEntries(context, options, "rank", inputs)) {
+        return *refused;
     }
     const std::string sep = separatorOf(context);
-    RankingInputs inputs;
-    try {
-        inputs = inputsOf(options, sep);
-    } catch (const BadValue& bad) {
-        *context.err << "rank: " << bad.message << '\n';
-        return exitUsage;
-    }
     StoneList arr_stones;
     StoneList arr_stonesGlobal;
     const ReferenceLoad load =
@@ -185,14 +72,6 @@ int rank(const Context& context, const RankOptions& options) {
     }
     print(context, rankStones(arr_stonesGlobal, inputs), inputs, sep, options.limit);
     return exitSuccess;
-}
-
-std::vector<std::string> colorNames() {
-    std::vector<std::string> names;
-    for (const Color& entry : colorCatalogue()) {
-        names.push_back(entry.name);
-    }
-    return names;
 }
 
 } // namespace

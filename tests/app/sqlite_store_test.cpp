@@ -1,8 +1,12 @@
+#include "app/sqlite/data_model.h"
 #include "app/sqlite/sqlite_store.h"
 #include "tests/support/temp_dir.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <sstream>
 
 namespace velmora::test {
 namespace {
@@ -10,50 +14,274 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Optional;
 
-constexpr const char* dataModel =
-    "CREATE TABLE IF NOT EXISTS metadata (key TEXT PRIMARY KEY, value TEXT);"
-    "INSERT OR IGNORE INTO metadata VALUES ('model', 'Velmora');";
+const std::filesystem::path dataModel = VELMORA_SOURCE_DIR "/resources/Velmora.sql";
+constexpr int latestVersion = 2;
 
-TEST(SqliteStore, IsCreatedWithItsFolderOnFirstUseAndOpensAgainUnchanged) {
+// The data model as version 1 of the application shipped it: run as it stands, with no
+// user_version mark.
+constexpr const char* releasedVersion1 =
+    "CREATE TABLE IF NOT EXISTS metadata (key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL);"
+    "INSERT OR IGNORE INTO metadata (key, value) VALUES ('model', 'Velmora');"
+    "INSERT OR IGNORE INTO metadata (key, value) VALUES ('version', '1');";
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+// Runs SQL on the file as another program would; the first column of the last row it gives.
+std::string sql(const std::filesystem::path& file, const std::string& statements) {
+    sqlite3* database = nullptr;
+    sqlite3_open(file.string().c_str(), &database);
+    std::string value;
+    sqlite3_exec(
+        database, statements.c_str(),
+        [](void* out, int, char** columns, char**) {
+            *static_cast<std::string*>(out) = columns[0] ? columns[0] : "NULL";
+            return 0;
+        },
+        &value, nullptr);
+    sqlite3_close(database);
+    return value;
+}
+
+StoneRecord fullRecord() {
+    StoneRecord r;
+    r.label = "lot 7, \"blue\"\nsecond line";
+    r.examined = std::chrono::sys_days(std::chrono::year(2026) / 11 / 23) + std::chrono::hours(9);
+    r.ri = {{1.544, 1.553, 1.549}, 1.544, 1.553, 0.009, "doubly refractive, birefringence 0.009"};
+    r.sg = 2.651;
+    r.weighing = Weighing{1.2, 0.747};
+    r.hardness = 7;
+    r.color = "Purple";
+    r.notes = "Étiquette: 石";
+    r.candidates = {{"2", "Quartz: Amethyst, Citrine", 100}, {"185", "Iolite", 61}};
+    r.conclusion = "Amethyst";
+    return r;
+}
+
+void expectSame(const StoneRecord& a, const StoneRecord& b) {
+    EXPECT_EQ(a.id, b.id);
+    EXPECT_EQ(a.label, b.label);
+    EXPECT_EQ(a.examined, b.examined);
+    EXPECT_EQ(a.ri.values, b.ri.values);
+    EXPECT_EQ(a.ri.low, b.ri.low);
+    EXPECT_EQ(a.ri.high, b.ri.high);
+    EXPECT_EQ(a.ri.birefringence, b.ri.birefringence);
+    EXPECT_EQ(a.ri.verdict, b.ri.verdict);
+    EXPECT_EQ(a.sg, b.sg);
+    EXPECT_EQ(a.weighing.has_value(), b.weighing.has_value());
+    if (a.weighing && b.weighing) {
+        EXPECT_EQ(a.weighing->inAir, b.weighing->inAir);
+        EXPECT_EQ(a.weighing->inWater, b.weighing->inWater);
+    }
+    EXPECT_EQ(a.hardness, b.hardness);
+    EXPECT_EQ(a.color, b.color);
+    EXPECT_EQ(a.notes, b.notes);
+    ASSERT_EQ(a.candidates.size(), b.candidates.size());
+    for (std::size_t i = 0; i < a.candidates.size(); ++i) {
+        EXPECT_EQ(a.candidates[i].number, b.candidates[i].number);
+        EXPECT_EQ(a.candidates[i].name, b.candidates[i].name);
+        EXPECT_EQ(a.candidates[i].fit, b.candidates[i].fit);
+    }
+    EXPECT_EQ(a.conclusion, b.conclusion);
+}
+
+TEST(SqliteStore, IsCreatedWithItsFolderOnFirstUseInWalModeAtTheLatestVersion) {
     TempDir dir;
-    const auto model = dir.write("Velmora.sql", dataModel);
     const auto file = dir.path() / "data" / "Velmora" / "Velmora.sqlite";
     for (int run = 0; run < 2; ++run) {
-        SqliteStore store(file, model);
+        SqliteStore store(file, dataModel);
         EXPECT_EQ(store.loadPersistentStores(), std::nullopt);
+        EXPECT_NE(store.records(), nullptr);
         EXPECT_TRUE(store.commitEditing());
         EXPECT_FALSE(store.hasChanges());
         EXPECT_EQ(store.save(), std::nullopt);
     }
-    EXPECT_TRUE(std::filesystem::is_regular_file(file));
+    EXPECT_EQ(sql(file, "PRAGMA journal_mode"), "wal");
+    EXPECT_EQ(sql(file, "PRAGMA user_version"), std::to_string(latestVersion));
+    EXPECT_EQ(sql(file, "SELECT value FROM metadata WHERE key = 'model'"), "Velmora");
 }
 
-TEST(SqliteStore, AnUncommittedTransactionIsAChangeThatSavingWrites) {
+TEST(SqliteStore, AddedRecordsAreChangesUntilSavedAndComeBackWholeNewestFirst) {
     TempDir dir;
-    const auto model =
-        dir.write("Velmora.sql", std::string(dataModel) + "BEGIN; INSERT OR REPLACE INTO metadata "
-                                                          "VALUES ('note', 'kept');");
-    SqliteStore store(dir.path() / "Velmora.sqlite", model);
+    const auto file = dir.path() / "Velmora.sqlite";
+    StoneRecord older = fullRecord();
+    StoneRecord sameTimeLater = older;
+    sameTimeLater.label = "same time, added later";
+    StoneRecord bare;
+    bare.label = "nothing measured";
+    bare.examined = older.examined + std::chrono::seconds(1);
+    {
+        SqliteStore store(file, dataModel);
+        ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+        for (StoneRecord* r : {&older, &sameTimeLater, &bare}) {
+            EXPECT_EQ(store.add(*r), std::nullopt);
+        }
+        EXPECT_TRUE(store.hasChanges());
+        EXPECT_EQ(sql(file, "SELECT count(*) FROM stone_record"), "0");
+        EXPECT_EQ(store.save(), std::nullopt);
+        EXPECT_FALSE(store.hasChanges());
+    }
+    SqliteStore store(file, dataModel);
     ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    std::vector<StoneRecord> listed;
+    ASSERT_EQ(store.list(listed), std::nullopt);
+    ASSERT_EQ(listed.size(), 3u);
+    expectSame(listed[0], bare);
+    expectSame(listed[1], sameTimeLater);
+    expectSame(listed[2], older);
+    std::optional<StoneRecord> found;
+    ASSERT_EQ(store.find(older.id, found), std::nullopt);
+    ASSERT_TRUE(found);
+    expectSame(*found, older);
+    EXPECT_EQ(store.find(older.id + 100, found), std::nullopt);
+    EXPECT_FALSE(found);
+}
+
+TEST(SqliteStore, EditsOnlyNotesAndConclusionAndRemovesARecordWhole) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    SqliteStore store(file, dataModel);
+    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    StoneRecord kept = fullRecord();
+    StoneRecord removed = fullRecord();
+    ASSERT_EQ(store.add(kept), std::nullopt);
+    ASSERT_EQ(store.add(removed), std::nullopt);
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    StoneRecord edited = kept;
+    edited.notes = "inclusions: needles";
+    edited.conclusion = "Citrine";
+    edited.label = "not edited";
+    edited.candidates.clear();
+    EXPECT_EQ(store.update(edited), std::nullopt);
+    EXPECT_EQ(store.remove(removed.id), std::nullopt);
     EXPECT_TRUE(store.hasChanges());
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    kept.notes = edited.notes;
+    kept.conclusion = edited.conclusion;
+    std::vector<StoneRecord> listed;
+    ASSERT_EQ(store.list(listed), std::nullopt);
+    ASSERT_EQ(listed.size(), 1u);
+    expectSame(listed[0], kept);
+    EXPECT_EQ(
+        sql(file, "SELECT count(*) FROM candidate WHERE record_id = " + std::to_string(removed.id)),
+        "0");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading WHERE record_id = " +
+                            std::to_string(removed.id)),
+              "0");
+}
+
+TEST(SqliteStore, BringsAStoreOfTheReleasedVersion1ToTheLatestKeepingItsData) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    sql(file, std::string(releasedVersion1) + "INSERT INTO metadata VALUES ('kept', 'yes');");
+    ASSERT_EQ(sql(file, "PRAGMA user_version"), "0");
+
+    SqliteStore store(file, dataModel);
+    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    StoneRecord record = fullRecord();
+    EXPECT_EQ(store.add(record), std::nullopt);
     EXPECT_EQ(store.save(), std::nullopt);
-    EXPECT_FALSE(store.hasChanges());
+    EXPECT_EQ(sql(file, "PRAGMA user_version"), std::to_string(latestVersion));
+    EXPECT_EQ(sql(file, "SELECT value FROM metadata WHERE key = 'kept'"), "yes");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM metadata WHERE key = 'version'"), "0");
+    EXPECT_EQ(sql(file, "PRAGMA integrity_check"), "ok");
+    std::optional<StoneRecord> found;
+    EXPECT_EQ(store.find(record.id, found), std::nullopt);
+    ASSERT_TRUE(found);
+    expectSame(*found, record);
+}
+
+TEST(SqliteStore, KeepsAsideUntouchedAFileNotOursAndStartsANewStore) {
+    const struct {
+        const char* what;
+        std::string bytes;   // written as they are
+        const char* made;    // or SQL run on a new database
+        const char* because; // in the message
+    } cases[] = {
+        {"not a database", std::string(4096, 'x'), nullptr, "not a database"},
+        {"another program's database", "", "CREATE TABLE song (title TEXT);", "another program"},
+        {"a metadata table not ours", "",
+         "CREATE TABLE metadata (key TEXT, value TEXT); INSERT INTO metadata VALUES ('model', "
+         "'Other');",
+         "another program"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        TempDir dir;
+        const auto file = dir.path() / "Velmora.sqlite";
+        if (c.made) {
+            sql(file, c.made);
+        } else {
+            dir.write("Velmora.sqlite", c.bytes);
+        }
+        const std::string before = bytesOf(file);
+
+        SqliteStore store(file, dataModel);
+        const auto message = store.loadPersistentStores();
+        const auto aside = dir.path() / "Velmora.unreadable-1.sqlite";
+        EXPECT_THAT(message, Optional(HasSubstr(c.because)));
+        EXPECT_THAT(message, Optional(HasSubstr(aside.string())));
+        EXPECT_EQ(bytesOf(aside), before);
+        ASSERT_NE(store.records(), nullptr);
+        StoneRecord record = fullRecord();
+        EXPECT_EQ(store.add(record), std::nullopt);
+        EXPECT_EQ(store.save(), std::nullopt);
+        EXPECT_EQ(sql(file, "SELECT count(*) FROM stone_record"), "1");
+    }
+}
+
+TEST(SqliteStore, LeavesAStoreOfANewerVersionAloneAndDoesNotOpenIt) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    sql(file, std::string(releasedVersion1) + "PRAGMA user_version = 99;");
+    const std::string before = bytesOf(file);
+    SqliteStore store(file, dataModel);
+    EXPECT_THAT(store.loadPersistentStores(), Optional(HasSubstr("newer version")));
+    EXPECT_EQ(store.records(), nullptr);
+    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);
 }
 
 TEST(SqliteStore, TellsWhyItCannotLoad) {
     TempDir dir;
-    const auto model = dir.write("Velmora.sql", dataModel);
     EXPECT_THAT(SqliteStore(dir.path() / "a.sqlite", std::nullopt).loadPersistentStores(),
                 Optional(HasSubstr("data model")));
     EXPECT_THAT(
         SqliteStore(dir.path() / "b.sqlite", dir.path() / "missing.sql").loadPersistentStores(),
         Optional(HasSubstr("missing.sql")));
-    const auto garbage = dir.write("garbage.sqlite", std::string(4096, 'x'));
-    EXPECT_THAT(SqliteStore(garbage, model).loadPersistentStores(),
-                Optional(HasSubstr("garbage.sqlite")));
+    const auto unversioned = dir.write("unversioned.sql", releasedVersion1);
+    EXPECT_THAT(SqliteStore(dir.path() / "c.sqlite", unversioned).loadPersistentStores(),
+                Optional(HasSubstr("no versions")));
     const auto blocker = dir.write("file", "");
-    EXPECT_THAT(SqliteStore(blocker / "Velmora.sqlite", model).loadPersistentStores(),
-                Optional(HasSubstr("cannot create the folder")));
+    SqliteStore blocked(blocker / "Velmora.sqlite", dataModel);
+    EXPECT_THAT(blocked.loadPersistentStores(), Optional(HasSubstr("cannot create the folder")));
+    EXPECT_EQ(blocked.records(), nullptr);
+}
+
+TEST(DataModel, StepsAreNumberedFromOneWithoutGaps) {
+    using Steps = std::optional<std::vector<std::string>>;
+    const struct {
+        const char* model;
+        Steps steps;
+    } cases[] = {
+        {"-- about\n-- version 1\nA;\n-- version 2\nB;\nC;\n",
+         std::vector<std::string>{"A;\n", "B;\nC;\n"}},
+        {"-- version 1\nA;", std::vector<std::string>{"A;\n"}},
+        {"", std::nullopt},
+        {"A;\n", std::nullopt},
+        {"-- version 2\nA;\n", std::nullopt},
+        {"-- version 1\n-- version 1\n", std::nullopt},
+        {"-- version 1x\n", std::nullopt},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(dataModelSteps(c.model), c.steps) << c.model;
+    }
 }
 
 } // namespace

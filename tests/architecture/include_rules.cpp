@@ -15,8 +15,9 @@ const std::map<std::string, std::set<std::string>> layersBelow = {
     {"data", {"foundation"}},
     {"device", {"foundation"}},
     {"search", {"data", "foundation"}},
-    {"ui", {"search", "data", "device", "foundation"}},
-    {"app", {"ui", "search", "data", "device", "foundation"}},
+    {"records", {"search", "data", "device", "foundation"}},
+    {"ui", {"records", "search", "data", "device", "foundation"}},
+    {"app", {"ui", "records", "search", "data", "device", "foundation"}},
 };
 
 const std::set<std::string> adapterFolders = {"qt",     "hidapi", "libusb", "udev",
@@ -59,8 +60,8 @@ Place placeOf(const std::string& path) {
 } // namespace
 
 const std::vector<std::string>& layerFolders() {
-    static const std::vector<std::string> folders = {"foundation", "data", "device",
-                                                     "search",     "ui",   "app"};
+    static const std::vector<std::string> folders = {"foundation", "data", "device", "search",
+                                                     "records",    "ui",   "app"};
     return folders;
 }
 

@@ -14,7 +14,7 @@ using ::testing::HasSubstr;
 
 TEST(Modules, TheStoreFromItsModuleIsTheSqliteFileMadeOnFirstUse) {
     TempDir dir;
-    const auto model = dir.write("Velmora.sql", "CREATE TABLE IF NOT EXISTS note (text TEXT);");
+    const auto model = dir.write("Velmora.sql", "-- version 1\nCREATE TABLE note (text TEXT);");
     const auto file = dir.path() / "data" / "Velmora.sqlite";
     const auto store = qt::loadSqliteStore(file, model);
     EXPECT_EQ(store->loadPersistentStores(), std::nullopt);
