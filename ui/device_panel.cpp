@@ -1,6 +1,9 @@
 #include "device/reading.h"
+#include "foundation/c_number.h"
 #include "ui/system_colors.h"
 #include "ui/view_controller.h"
+
+#include <limits>
 
 namespace velmora {
 
@@ -44,6 +47,9 @@ void ViewController::usbDisconnectedWithNotification(const HIDDeviceDisconnected
 
 void ViewController::hidReadDataWithNotification(const HIDDeviceDataReceived& notification) {
     usb_device_reading.setText(formatReadingForDisplay(notification.data, environment_.locale));
+    capture_.add(
+        environment_.runLoop.now(),
+        parseCNumber(notification.data).value_or(std::numeric_limits<double>::quiet_NaN()));
 }
 
 void ViewController::btn_connect_tap(Button&) {

@@ -8,6 +8,7 @@
 // Work it queues on the run loop refers to the controller: run or drop it before the controller
 // goes.
 
+#include "device/capture_model.h"
 #include "device/device_notifications.h"
 #include "device/instrument_link.h"
 #include "foundation/locale.h"
@@ -63,6 +64,8 @@ public:
     ViewController& operator=(const ViewController&) = delete;
 
     const ViewControllerState& state() const { return *this; }
+    // What the live panel measures: steadiness, captures and the stone's rotation series.
+    const CaptureModel& capture() const { return capture_; }
 
     // Window set-up and tabs (view_controller.cpp, tabs.cpp)
     void viewDidLoad();
@@ -140,6 +143,7 @@ private:
     ViewControllerEnvironment environment_;
     std::vector<NotificationCenter::Token> observations_;
     BestMatches bestMatches_;
+    CaptureModel capture_;
 };
 
 // Empties an entry, or the field editor holding its text while it is edited.
