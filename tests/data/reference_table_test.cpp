@@ -161,6 +161,9 @@ TEST(ShippedReferenceTable, CorrectedAndAddedRowsHoldTheirSourcedValues) {
         {"Opal triplet", "1.490-1.553", "", "", "", "Composite", "reads the cap"},
         {"Soude emerald", "1.544-1.553", "2.64-2.66", "", "0.009", "Composite", ""},
         {"Synthetic spinel triplet", "1.725-1.740", "3.61-3.67", "", "none", "Composite", ""},
+        // Jet's imitations: vulcanite reads as jet but is lighter; epoxy sinks where amber floats.
+        {"Vulcanite (ebonite)", "1.660-1.660", "1.10-1.20", "2-3", "none", "Plastic", "sulphurous"},
+        {"Epoxy resin", "1.500-1.600", "1.25-1.35", "2-3", "none", "Plastic", "1.50-1.57"},
     };
     for (const auto& c : cases) {
         const auto* s = shippedStone(c.name);
