@@ -104,8 +104,18 @@ struct Prepared {
         r.spotOnly = row.aggregate && sharpEdge;
     }
 
+    // An aggregate blurs its grains' indices into one spot, or blinks across a carbonate's wide
+    // span: two sharp edges apart by less than a blink come from a single crystal, so against
+    // them the aggregate counts as showing no spread at all.
+    std::optional<ValueSpan> birefringenceOf(const RankingRow& row) const {
+        if (!row.birefringence && row.aggregate && sharpEdge) {
+            return ValueSpan{0, 0};
+        }
+        return row.birefringence;
+    }
+
     void rateBirefringence(const RankingRow& row, RankedStone& r) const {
-        const auto& span = row.birefringence;
+        const auto span = birefringenceOf(row);
         if (!spread || !span) {
             return;
         }

@@ -17,11 +17,14 @@
 // (a good balance is nearly as telling, but small stones weigh poorly), colour 0.25 and hardness
 // 0.25 (most species come in many colours; a scratch test is rough and rarely done). A colour not
 // among the stone's counts as one tolerance beyond. A property the stone's row does not give
-// ("not measurable" birefringence of an aggregate, an empty cell) takes no part.
+// ("not measurable" birefringence, save for aggregates as below; an empty cell) takes no part.
 //
 // Birefringence is the spread of a low and a high reading. A facet cut across the optic axis
 // shows less than the full birefringence, never more, so a spread below the stone's counts with
-// twice the tolerance. Over the limit, the R.I. fits a stone whose range reaches above the
+// twice the tolerance. An aggregate gives one vague spot, or a carbonate's blink: under two edges
+// read to the third decimal and apart by less than a blink it counts as singly refractive, since
+// such edges come from a single crystal (azurmalachite would otherwise fit a corundum's
+// 1.762-1.770 fully). Over the limit, the R.I. fits a stone whose range reaches above the
 // instrument's limit, and lies as far off as its top falls short of it.
 //
 // Order: fit as shown (whole percent), best first (at 0 %, the nearest first). Among equal fits a

@@ -71,6 +71,11 @@ TEST(RankCommand, IdentifiesTheClassicReadingsFromTheShippedTable) {
         }
         EXPECT_EQ(line.find("garnet"), std::string::npos) << line;
     }
+    // A corundum's two edges: no aggregate, whose wide spot range holds them, fits as well.
+    const auto corundum =
+        lines(runCli({"rank", "--ri", "1.762", "--ri-high", "1.770", "--sg", "4.00"}).out);
+    ASSERT_GE(corundum.size(), 2u);
+    EXPECT_EQ(corundum[1].find("100%"), std::string::npos) << corundum[1];
 }
 
 TEST(RankCommand, ListsAGlassAmongTheFirstThreeAtOneFiftyFive) {

@@ -161,18 +161,20 @@ TEST(Ranking, TheSpreadOfTwoReadingsSeparatesByOpticCharacter) {
         std::string order;
     } cases[] = {
         // Just beyond the tolerance the singly refractive spinel still shows 100 % and is the
-        // narrower, yet the doubly refractive epidote comes first.
+        // narrower, yet the doubly refractive epidote comes first. Far off, the pearl's lack of
+        // two edges counts too.
         {{.ri = m(1.7180), .riHigh = m(1.7211)},
-         "Epidote 100, Spinel 100, Pearl 0, Tourmaline 0, "
-         "Glass 0"},
+         "Epidote 100, Spinel 100, Tourmaline 0, Glass 0, "
+         "Pearl 0"},
         // No spread: the strongly doubly refractive tourmaline falls behind what fits, and the
         // aggregate pearl, which gives no sharp edge, behind the glass.
         {{.ri = m(1.620), .riHigh = m(1.621)},
          "Glass 100, Pearl 100, Tourmaline 51, Epidote 0, "
          "Spinel 0"},
-        // A spread below the stone's counts with twice the tolerance: 0.010 short is 80 %.
+        // A spread below the stone's counts with twice the tolerance: 0.010 short is 80 %. The
+        // aggregate pearl shows no two sharp edges, as little as the glass does.
         {{.ri = m(1.620), .riHigh = m(1.624)},
-         "Pearl 100, Glass 95, Tourmaline 80, Epidote 0, "
+         "Glass 95, Pearl 95, Tourmaline 80, Epidote 0, "
          "Spinel 0"},
     };
     for (const auto& c : cases) {
@@ -183,6 +185,29 @@ TEST(Ranking, TheSpreadOfTwoReadingsSeparatesByOpticCharacter) {
         {{"Tourmaline", "1.614-1.650", "", "0.014-0.024"}, {"Spinel", "1.712-1.736", "", "none"}});
     EXPECT_EQ(order(rankStones(alone, {.ri = m(1.620), .riHigh = m(1.621)})),
               "Tourmaline 51, Spinel 0");
+}
+
+TEST(Ranking, AnAggregateShowsNoTwoSharpEdgesShortOfABlink) {
+    const auto stones =
+        table({{"Sapphire", "1.762-1.770", "3.95-4.05", "0.008-0.010"},
+               {"Azurmalachite", "1.655-1.909", "3.65-4.01", "not measurable (aggregate)"}});
+    const struct {
+        RankingInputs in;
+        std::string order;
+    } cases[] = {
+        // A corundum's two edges: the aggregate counts as singly refractive, 0.008 off.
+        {{.ri = m(1.762, 0.0005), .riHigh = m(1.770, 0.0005), .sg = m(4.00, 0.005)},
+         "Sapphire 100, Azurmalachite 25"},
+        // Read to two decimals the edges are vague, as an aggregate's spot may be.
+        {{.ri = m(1.76, 0.005), .riHigh = m(1.77, 0.005), .sg = m(4.00, 0.005)},
+         "Sapphire 100, Azurmalachite 100"},
+        // Readings further apart than a blink are the carbonate's own.
+        {{.ri = m(1.655, 0.0005), .riHigh = m(1.850, 0.0005), .sg = m(3.90, 0.005)},
+         "Azurmalachite 100, Sapphire 0"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(order(rankStones(stones, c.in)), c.order);
+    }
 }
 
 TEST(Ranking, TheNameFiltersWithoutCaseOrAccents) {
