@@ -168,10 +168,10 @@ QString ShellTest::text(const char* name) {
     return {};
 }
 
-std::vector<std::string> ShellTest::informativeTexts() const {
+std::vector<std::string> ShellTest::alertTexts(std::string RecordedAlert::*text) const {
     std::vector<std::string> texts;
     for (const auto& alert : alerts.alerts) {
-        texts.push_back(alert.informative);
+        texts.push_back(alert.*text);
     }
     return texts;
 }

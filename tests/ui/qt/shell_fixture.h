@@ -61,7 +61,9 @@ protected:
     QStringList listedStones();        // the table's name column, top to bottom
     int selectedRow();
     QString text(const char* name); // a label's, an entry's or a pop-up's
-    std::vector<std::string> informativeTexts() const;
+    // The alerts' informative texts, or another of their texts, in the order shown.
+    std::vector<std::string>
+    alertTexts(std::string RecordedAlert::*text = &RecordedAlert::informative) const;
 
     static const QColor red;
     static const QColor green;
