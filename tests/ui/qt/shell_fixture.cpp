@@ -3,7 +3,6 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "tests/support/reference_rows.h"
-#include "tests/support/reference_text.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -7,9 +7,9 @@
 
 #include "app/qt/application_shell.h"
 #include "app/qt/dialog_screen_presenter.h"
-#include "tests/support/answering_alert_presenter.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/memory_store.h"
+#include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/recording_workspace.h"
 #include "tests/support/settable_locale.h"
@@ -73,7 +73,7 @@ protected:
     NotificationCenter center;
     RecordingLog log;
     HIDDeviceConnector instrument;
-    AnsweringAlertPresenter alerts;
+    RecordingAlertPresenter alerts;
     SettableLocale locale{"."};
     std::ostringstream standardOutput;
     RecordingWorkspace workspace;
