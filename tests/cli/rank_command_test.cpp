@@ -93,25 +93,11 @@ TEST(RankCommand, ListsAGlassAmongTheFirstThreeAtOneFiftyFive) {
     expectListed({{"--ri", "1.550", "--sg", "2.60"}, "glass", 3});
 }
 
-std::string gem(const std::string& id, const std::string& name, const std::string& ri,
-                const std::string& sg, const std::string& hardness,
-                const std::string& birefringence, const std::string& family,
-                const std::string& colour) {
-    return row({{0, id},
-                {1, name},
-                {5, sg},
-                {6, ri},
-                {9, hardness},
-                {14, birefringence},
-                {15, family},
-                {22, colour}});
-}
-
 const std::vector<std::string> reference = {
-    gem("2", "Amethyst", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Purple"),
-    gem("1", "Rock crystal", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Colorless"),
-    gem("3", "Paraíba tourmaline", "1.614-1.650", "3.00-3.12", "7-7.5", "0.014-0.024", "Tourmaline",
-        "Blue"),
+    gemRow("2", "Amethyst", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Purple"),
+    gemRow("1", "Rock crystal", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Colorless"),
+    gemRow("3", "Paraíba tourmaline", "1.614-1.650", "3.00-3.12", "7-7.5", "0.014-0.024",
+           "Tourmaline", "Blue"),
 };
 
 CliResult rank(const ReferenceFile& file, std::vector<std::string> args) {
