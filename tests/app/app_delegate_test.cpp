@@ -1,8 +1,8 @@
 #include "app/app_delegate.h"
-#include "tests/support/answering_alert_presenter.h"
 #include "tests/support/fake_hid.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/memory_store.h"
+#include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
 
 #include <gmock/gmock.h>
@@ -39,7 +39,7 @@ protected:
     RecordingLog log;
     FakeHidBus bus;
     HIDDeviceConnector connector{bus.managerFactory(), runLoop, center, log};
-    AnsweringAlertPresenter alerts;
+    RecordingAlertPresenter alerts;
     MarkedStrings strings;
     int containersMade = 0;
     std::optional<AppDelegate> delegate_;

@@ -62,31 +62,22 @@ StoneRecord fullRecord() {
     return r;
 }
 
+// Every field, for comparing records whole.
+auto fields(const StoneRecord& r) {
+    std::vector<std::tuple<std::string, std::string, int>> candidates;
+    for (const auto& c : r.candidates) {
+        candidates.emplace_back(c.number, c.name, c.fit);
+    }
+    const auto weighing = r.weighing
+                              ? std::optional(std::pair(r.weighing->inAir, r.weighing->inWater))
+                              : std::nullopt;
+    return std::tuple(r.id, r.label, r.examined.time_since_epoch().count(), r.ri.values, r.ri.low,
+                      r.ri.high, r.ri.birefringence, r.ri.verdict, r.sg, weighing, r.hardness,
+                      r.color, r.notes, candidates, r.conclusion);
+}
+
 void expectSame(const StoneRecord& a, const StoneRecord& b) {
-    EXPECT_EQ(a.id, b.id);
-    EXPECT_EQ(a.label, b.label);
-    EXPECT_EQ(a.examined, b.examined);
-    EXPECT_EQ(a.ri.values, b.ri.values);
-    EXPECT_EQ(a.ri.low, b.ri.low);
-    EXPECT_EQ(a.ri.high, b.ri.high);
-    EXPECT_EQ(a.ri.birefringence, b.ri.birefringence);
-    EXPECT_EQ(a.ri.verdict, b.ri.verdict);
-    EXPECT_EQ(a.sg, b.sg);
-    EXPECT_EQ(a.weighing.has_value(), b.weighing.has_value());
-    if (a.weighing && b.weighing) {
-        EXPECT_EQ(a.weighing->inAir, b.weighing->inAir);
-        EXPECT_EQ(a.weighing->inWater, b.weighing->inWater);
-    }
-    EXPECT_EQ(a.hardness, b.hardness);
-    EXPECT_EQ(a.color, b.color);
-    EXPECT_EQ(a.notes, b.notes);
-    ASSERT_EQ(a.candidates.size(), b.candidates.size());
-    for (std::size_t i = 0; i < a.candidates.size(); ++i) {
-        EXPECT_EQ(a.candidates[i].number, b.candidates[i].number);
-        EXPECT_EQ(a.candidates[i].name, b.candidates[i].name);
-        EXPECT_EQ(a.candidates[i].fit, b.candidates[i].fit);
-    }
-    EXPECT_EQ(a.conclusion, b.conclusion);
+    EXPECT_EQ(fields(a), fields(b));
 }
 
 TEST(SqliteStore, IsCreatedWithItsFolderOnFirstUseInWalModeAtTheLatestVersion) {

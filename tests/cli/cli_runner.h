@@ -4,7 +4,7 @@
 // for its --reference.
 
 #include "app/cli/cli.h"
-#include "tests/support/reference_text.h"
+#include "tests/support/reference_rows.h"
 #include "tests/support/temp_dir.h"
 
 #include <sstream>

@@ -99,30 +99,10 @@ TEST(RankCommand, ListsAGlassAmongTheFirstThreeAtOneFiftyFive) {
 }
 
 const std::vector<std::string> reference = {
-    row({{0, "2"},
-         {1, "Amethyst"},
-         {5, "2.64-2.66"},
-         {6, "1.544-1.553"},
-         {9, "7"},
-         {14, "0.009"},
-         {15, "Quartz"},
-         {22, "Purple"}}),
-    row({{0, "1"},
-         {1, "Rock crystal"},
-         {5, "2.64-2.66"},
-         {6, "1.544-1.553"},
-         {9, "7"},
-         {14, "0.009"},
-         {15, "Quartz"},
-         {22, "Colorless"}}),
-    row({{0, "3"},
-         {1, "Paraíba tourmaline"},
-         {5, "3.00-3.12"},
-         {6, "1.614-1.650"},
-         {9, "7-7.5"},
-         {14, "0.014-0.024"},
-         {15, "Tourmaline"},
-         {22, "Blue"}}),
+    gemRow("2", "Amethyst", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Purple"),
+    gemRow("1", "Rock crystal", "1.544-1.553", "2.64-2.66", "7", "0.009", "Quartz", "Colorless"),
+    gemRow("3", "Paraíba tourmaline", "1.614-1.650", "3.00-3.12", "7-7.5", "0.014-0.024",
+           "Tourmaline", "Blue"),
 };
 
 CliResult rank(const ReferenceFile& file, std::vector<std::string> args) {

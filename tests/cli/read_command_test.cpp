@@ -7,7 +7,6 @@
 #include <nlohmann/json.hpp>
 #include <regex>
 #include <sstream>
-#include <sys/stat.h>
 
 namespace velmora::test {
 namespace {
@@ -95,22 +94,13 @@ TEST(ReadCommand, SteadyPrintsOneLineEachTimeTheReadingSettles) {
     }
 }
 
-// None of these is opened: a pipe without a writer would hang the command, the devices would feed
-// it without end, and the sparse file would be taken whole into memory.
+// Every kind of refused file is the file reader's concern; these are the readings'.
 TEST(ReadCommand, RefusesAReplayFileThatIsNoFileOrTooLargeAtOnce) {
     TempDir dir;
-    const auto fifo = dir.path() / "pipe";
-    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    const auto sparse = dir.write("huge.txt", "");
-    std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
-    const auto over = dir.write("over.txt", std::string((1 << 20) + 1, '\n'));
     const std::pair<std::string, std::string> files[] = {
-        {fifo.string(), "a device, a pipe or a socket"},
         {"/dev/zero", "a device, a pipe or a socket"},
-        {"/dev/urandom", "a device, a pipe or a socket"},
-        {dir.path().string(), "it is a folder"},
-        {sparse.string(), "larger than 1 MiB, the most a file of readings may hold"},
-        {over.string(), "larger than 1 MiB"},
+        {dir.write("over.txt", std::string((1 << 20) + 1, '\n')).string(),
+         "larger than 1 MiB, the most a file of readings may hold"},
     };
     for (const auto& [path, reason] : files) {
         const auto r = runCli({"read", "--simulate=" + path, "--count", "1"});

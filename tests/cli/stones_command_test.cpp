@@ -20,15 +20,6 @@ TEST(StonesCommand, PrintsTheLoadOrderIdTabNameOrAsJsonLines) {
               "{\"StoneID\":\"1\",\"StoneName\":\"Sph\xC3\xA8ne titanite\"}\n");
 }
 
-TEST(StonesCommand, UnreadableReferencePrintsTheLoadersLineAndFails) {
-    TempDir dir;
-    const auto r = runCli({"stones", "--reference", (dir.path() / "nope.csv").string()});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, ""); // the reason goes with the errors, out of the listing's way
-    EXPECT_NE(r.err.find("nope.csv"), std::string::npos);
-    EXPECT_EQ(r.err.find('\n'), r.err.size() - 1);
-}
-
 // A crafted table must not reach the terminal as control sequences: a title set, a screen cleared.
 TEST(StonesCommand, WritesOutTheControlCharactersOfNames) {
     ReferenceFile file({stoneRow("1\x1B[2J", "Ruby\x1B]0;owned\x07\t\xC2\x9B")});
@@ -43,19 +34,19 @@ TEST(StonesCommand, AFileThatIsNoTableIsToldAndFails) {
     TempDir dir;
     const auto sparse = dir.write("huge.csv", "");
     std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
+    // Every kind of refused file is the file reader's concern; these are the table's.
     const std::pair<std::string, std::string> files[] = {
         {"/dev/zero", "a device, a pipe or a socket"},
-        {"/dev/urandom", "a device, a pipe or a socket"},
-        {dir.path().string(), "it is a folder"},
         {sparse.string(), "larger than 64 MiB"},
         {dir.write("nul.csv", std::string(1 << 20, '\0')).string(), "holds no stone"},
+        {(dir.path() / "nope.csv").string(), "nope.csv"},
     };
     for (const auto& [path, reason] : files) {
         const auto r = runCli({"stones", "--reference", path});
         EXPECT_EQ(r.status, 1) << path;
-        EXPECT_EQ(r.out, "");
+        EXPECT_EQ(r.out, ""); // the reason goes with the errors, out of the listing's way
         EXPECT_NE(r.err.find(reason), std::string::npos) << r.err;
-        EXPECT_LT(r.err.size(), 300u);
+        EXPECT_EQ(r.err.find('\n'), r.err.size() - 1) << r.err; // one line
     }
 }
 

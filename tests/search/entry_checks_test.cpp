@@ -43,6 +43,13 @@ TEST(EntryChecks, TypingNamesAForeignSeparatorFirstAndLeavingRefusesAnEmptyOrStr
          {}},
         {"1.5", arabic, "Please use '\xD9\xAB' as decimals!", numberOnly},
         {"1,5", arabic, numberOnly, numberOnly},
+        // Checked character by character, not byte by byte: another letter of the separator's
+        // block, an Arabic digit, a broken byte.
+        {"1\xD9\xAC"
+         "5",
+         arabic, numberOnly, numberOnly},
+        {"\xD9\xA1", point, numberOnly, numberOnly},
+        {"\xFF", point, numberOnly, numberOnly},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(typedEntryAlert(c.text, c.separators), c.typed) << c.text;

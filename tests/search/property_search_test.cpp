@@ -1,4 +1,3 @@
-#include "search/number_entry.h"
 #include "search/property_search.h"
 
 #include <gtest/gtest.h>
@@ -66,32 +65,6 @@ TEST(FindStones, ColourIgnoresCaseNameIsAPartIgnoringCaseAndCriteriaCombine) {
     EXPECT_EQ(names(findStones(table, {.name = "e\xCC\x81mer"})), "\xC3\x89meraude;");
     EXPECT_EQ(names(findStones(table, {.ri = 1.55, .color = "pink", .name = "quartz"})),
               "Quartz;Quartz;");
-}
-
-struct N {
-    const char* text;
-    const char* separator;
-    bool accepted;
-};
-
-TEST(NumberEntry, OnlyDigitsAndTheCharactersOfTheSeparator) {
-    // A separator of several characters, as U+066B, permits each of them.
-    for (const auto& c :
-         {N{"", ".", true}, N{"1.2.3", ".", true}, N{".", ".", true}, N{"1,5", ".", false},
-          N{"1,5", ",", true}, N{"-1", ".", false}, N{"1 ", ".", false}, N{"1e2", ".", false},
-          N{"a", ".", false}, N{"\xD9\xA1", ".", false}, N{"\xFF", ".", false},
-          N{"1\xD9\xAB"
-            "5",
-            "\xD9\xAB", true},
-          N{"1\xD9\xAC"
-            "5",
-            "\xD9\xAB", false}}) {
-        EXPECT_EQ(isNumberOnly(c.text, c.separator), c.accepted)
-            << c.text << " with " << c.separator;
-    }
-    EXPECT_EQ(foreignSeparator("."), ",");
-    EXPECT_EQ(foreignSeparator(","), ".");
-    EXPECT_EQ(foreignSeparator("\xD9\xAB"), ".");
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 #pragma once
 
-// Records every alert and answers it with the default button.
+// Records every alert and answers each with the next scripted button, then with the default one.
 
 #include "ui/alert_presenter.h"
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -25,7 +26,12 @@ public:
         if (whileShown) {
             whileShown();
         }
-        return 0;
+        if (answers.empty()) {
+            return 0;
+        }
+        const std::size_t answer = answers.front();
+        answers.pop_front();
+        return answer;
     }
 
     // The informative texts, in the order shown.
@@ -38,6 +44,7 @@ public:
     }
 
     std::vector<RecordedAlert> alerts;
+    std::deque<std::size_t> answers; // button indices, the first button being 0
     // Runs while the alert is up, before it is answered: what the user sees behind it.
     std::function<void()> whileShown;
 };

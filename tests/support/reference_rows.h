@@ -1,9 +1,11 @@
 #pragma once
 
-// Building reference-file text in tests: a row of 28 cells from the few that matter.
+// Building reference-file text in tests: a row of 28 cells from the few that matter, and a
+// whole file's text.
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace velmora::test {
 
@@ -27,6 +29,30 @@ inline std::string stoneRow(const std::string& id, const std::string& name,
                             const std::string& ri = "", const std::string& sg = "",
                             const std::string& hardness = "", const std::string& color1 = "") {
     return row({{0, id}, {1, name}, {5, sg}, {6, ri}, {9, hardness}, {22, color1}});
+}
+
+// A row with what the ranking reads besides: birefringence and family.
+inline std::string gemRow(const std::string& id, const std::string& name, const std::string& ri,
+                          const std::string& sg, const std::string& hardness,
+                          const std::string& birefringence, const std::string& family,
+                          const std::string& color1) {
+    return row({{0, id},
+                {1, name},
+                {5, sg},
+                {6, ri},
+                {9, hardness},
+                {14, birefringence},
+                {15, family},
+                {22, color1}});
+}
+
+// The header line, then the given rows.
+inline std::string referenceText(const std::vector<std::string>& rows) {
+    std::string text = referenceHeader;
+    for (const auto& r : rows) {
+        text += "\r\n" + r;
+    }
+    return text;
 }
 
 } // namespace velmora::test

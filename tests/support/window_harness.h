@@ -9,7 +9,7 @@
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
-#include "tests/support/reference_text.h"
+#include "tests/support/reference_rows.h"
 #include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 #include "ui/main_window.h"

@@ -30,16 +30,14 @@ struct TypingCase {
 
 TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
     const std::string numberOnly = "Please insert number only!";
+    // Which texts are refused is the entry checks' own; these are the window's part: the alert,
+    // the emptied entry, and the name entry left alone.
     const TypingCase cases[] = {
         {".", &MainWindow::txt_leftRIReading, "1.544", {}, "1.544"},
         // What comes after the rejected character goes into the emptied entry.
         {".", &MainWindow::txt_leftSG, "1,5", {"Please use '.' as decimals!"}, "5"},
         {",", &MainWindow::txt_leftHardness, "1.5", {"Please use ',' as decimals!"}, "5"},
-        {",", &MainWindow::txt_leftRIReading, "1,5", {}, "1,5"},
-        {".", &MainWindow::txt_leftSG, "2-", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "2 ", {numberOnly}, ""},
         {".", &MainWindow::txt_leftSG, "2x", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "2e", {numberOnly}, ""},
         {".", &MainWindow::txt_leftSG, "1.2.3", {}, "1.2.3"}, // the search's to refuse
         {".", &MainWindow::txt_left_name, "Star ruby, 1.5", {}, "Star ruby, 1.5"},
     };

@@ -7,40 +7,7 @@
 namespace velmora::test {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-const SerialDevice ftdi = usbSerialPort("/dev/ttyUSB0", 0x0403, 0x6001);
-const SerialDevice instrument = usbSerialPort("/dev/ttyACM0", 0x04D8, 0xF9FF);
-// What every poll posts, removals before additions, is checked through `velmora-cli watch serial`.
-TEST(SerialDeviceMonitor, ListsPortsWithAPathKeepsAChangedOneInPlaceAndAnEmptyFilterRemovesAll) {
-    SerialDevice renamed = ftdi;
-    renamed.name = "Renamed";
-    FakeSerialPortSource source(
-        {{}, {ftdi, usbSerialPort("", 0x1111, 0x2222)}, {renamed, instrument}});
-    NotificationCenter center;
-    Lines posted;
-    const auto record = [&](const auto& n) {
-        posted.push_back(std::string(n.name) + " " + n.device.path);
-    };
-    center.addObserver<SerialDeviceAdded>(record);
-    center.addObserver<SerialDeviceRemoved>(record);
-    SerialDeviceMonitor monitor{source, center};
-    monitor.poll();
-    EXPECT_TRUE(posted.empty());
-    monitor.poll();
-    monitor.poll();
-    EXPECT_EQ(monitor.serialDevices, (std::vector<SerialDevice>{ftdi, instrument}));
-    EXPECT_EQ(monitor.serialDevices[0].name, "Renamed");
-    monitor.filterDevices = [](auto) {
-        return std::vector<SerialDevice>{};
-    };
-    monitor.poll();
-    EXPECT_EQ(posted,
-              (Lines{"SerialDeviceAdded /dev/ttyUSB0", "SerialDeviceAdded /dev/ttyACM0",
-                     "SerialDeviceRemoved /dev/ttyUSB0", "SerialDeviceRemoved /dev/ttyACM0"}));
-    EXPECT_TRUE(monitor.serialDevices.empty());
-}
-
+// What every poll posts is checked through `velmora-cli watch serial`.
 TEST(SerialDeviceMonitor, ThePauseIsTheIntervalToTheMicrosecondAndOnlyCountableOnesAreTaken) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double inf = std::numeric_limits<double>::infinity();

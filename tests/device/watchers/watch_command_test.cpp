@@ -25,14 +25,18 @@ struct WatchCase {
 TEST(WatchCommand, PrintsTheDevicesPresentFirstThenEachChangeAsItComes) {
     const std::string connected = "HIDDeviceConnected\t/dev/hidraw0\t0x04D8\t0xF9FF\t8\t"
                                   "Velmora Refractometer\n";
+    SerialDevice renamed = ftdi;
+    renamed.name = "Renamed";
     const WatchCase cases[] = {
-        {[](auto& p) {
-             p.serialSnapshots({{ftdi, {.path = "/dev/ttyS0"}}, {instrument}}, 2);
+        // A port without a path is left out; one that changes but keeps its path is no news.
+        {[renamed](auto& p) {
+             p.serialSnapshots({{ftdi, {.path = "/dev/ttyS0"}, usbSerialPort("", 0x1111, 0x2222)},
+                                {instrument, renamed}},
+                               2);
          },
          {"watch", "serial", "--interval", "0"},
          "SerialDeviceAdded\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
          "SerialDeviceAdded\t/dev/ttyS0\t\t\t\t\t\n"
-         "SerialDeviceRemoved\t/dev/ttyUSB0\tUSB Serial\tMaker\tSN24577\t0x0403\t0x6001\n"
          "SerialDeviceRemoved\t/dev/ttyS0\t\t\t\t\t\n"
          "SerialDeviceAdded\t/dev/ttyACM0\tUSB Serial\tMaker\tSN63999\t0x04D8\t0xF9FF\n"},
         {[](auto& p) {

@@ -27,7 +27,7 @@ TEST_F(Clicks, SearchClickedFromAnEmptyFocusedEntryRunsTheSearch) {
     focusEmptySgEntry();
     ASSERT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
     click("btn_search");
-    EXPECT_THAT(informativeTexts(), ElementsAre("Please enter S.G. value!"));
+    EXPECT_THAT(alertTexts(), ElementsAre("Please enter S.G. value!"));
     EXPECT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
 }
 
@@ -45,7 +45,7 @@ TEST_F(Clicks, ACheckBoxClickedFromAnEmptyFocusedEntryToggles) {
     type("txt_leftSG", "");
     click("check_hardness");
     type("txt_leftHardness", "7");
-    EXPECT_THAT(informativeTexts(), ElementsAre("Please insert number only!"));
+    EXPECT_THAT(alertTexts(), ElementsAre("Please insert number only!"));
 }
 
 TEST_F(Clicks, ATabChangeLockingTheFocusedEntryChecksNothing) {

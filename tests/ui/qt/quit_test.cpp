@@ -14,20 +14,12 @@ using Quit = ShellTest;
 
 const MemoryStoreSetup failingSave{.hasChanges = true, .saveError = "cannot save Velmora.sqlite"};
 
-std::vector<std::string> messages(const AnsweringAlertPresenter& alerts) {
-    std::vector<std::string> texts;
-    for (const auto& alert : alerts.alerts) {
-        texts.push_back(alert.message);
-    }
-    return texts;
-}
-
 TEST_F(Quit, ClosingTheWindowWithAFailedSaveLetsTheUserStayOrQuitAnyway) {
     open({.store = failingSave});
     alerts.answers = {0, 1}; // the error's OK, then Cancel
     EXPECT_FALSE(window().close());
     EXPECT_TRUE(window().isVisible());
-    EXPECT_THAT(messages(alerts),
+    EXPECT_THAT(alertTexts(&RecordedAlert::message),
                 ElementsAre("cannot save Velmora.sqlite",
                             "Could not save changes while quitting. Quit anyway?"));
     EXPECT_THAT(alerts.alerts[1].buttons, ElementsAre("Quit anyway", "Cancel"));
@@ -58,7 +50,7 @@ TEST_F(Quit, FileQuitEndsTheApplicationAndItsInstrumentSession) {
 TEST_F(Quit, SaveWithItsShortcutShowsAFailedSave) {
     open({.store = failingSave});
     QTest::keyClick(&window(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_THAT(messages(alerts), ElementsAre("cannot save Velmora.sqlite"));
+    EXPECT_THAT(alertTexts(&RecordedAlert::message), ElementsAre("cannot save Velmora.sqlite"));
     EXPECT_TRUE(window().isVisible());
 }
 

@@ -3,7 +3,6 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "tests/support/reference_rows.h"
-#include "tests/support/reference_text.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -168,10 +167,10 @@ QString ShellTest::text(const char* name) {
     return {};
 }
 
-std::vector<std::string> ShellTest::informativeTexts() const {
+std::vector<std::string> ShellTest::alertTexts(std::string RecordedAlert::*text) const {
     std::vector<std::string> texts;
     for (const auto& alert : alerts.alerts) {
-        texts.push_back(alert.informative);
+        texts.push_back(alert.*text);
     }
     return texts;
 }

@@ -7,9 +7,9 @@
 
 #include "app/qt/application_shell.h"
 #include "app/qt/dialog_screen_presenter.h"
-#include "tests/support/answering_alert_presenter.h"
 #include "tests/support/manual_run_loop.h"
 #include "tests/support/memory_store.h"
+#include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/recording_workspace.h"
 #include "tests/support/settable_locale.h"
@@ -61,7 +61,9 @@ protected:
     QStringList listedStones();        // the table's name column, top to bottom
     int selectedRow();
     QString text(const char* name); // a label's, an entry's or a pop-up's
-    std::vector<std::string> informativeTexts() const;
+    // The alerts' informative texts, or another of their texts, in the order shown.
+    std::vector<std::string>
+    alertTexts(std::string RecordedAlert::*text = &RecordedAlert::informative) const;
 
     static const QColor red;
     static const QColor green;
@@ -71,7 +73,7 @@ protected:
     NotificationCenter center;
     RecordingLog log;
     HIDDeviceConnector instrument;
-    AnsweringAlertPresenter alerts;
+    RecordingAlertPresenter alerts;
     SettableLocale locale{"."};
     std::ostringstream standardOutput;
     RecordingWorkspace workspace;
