@@ -1,8 +1,9 @@
 #pragma once
 
-// Reading a whole file the user named. Only a regular file is opened: a folder, a pipe with no
-// writer or a device such as /dev/zero is refused from its status before anything is read, and a
-// file larger than the caller's limit is refused before any memory is taken for it.
+// Reading a whole file the user named. Only a regular file is read: a folder, a pipe with no
+// writer or a device such as /dev/zero is refused from the status of the file as opened, before
+// anything is read, and a file larger than the caller's limit is refused before any memory is
+// taken for it.
 
 #include <cstddef>
 #include <filesystem>
