@@ -24,7 +24,8 @@ ReadText readTextFile(const std::filesystem::path& path) {
     const auto failure = [&path](const std::string& why) {
         return ReadText{std::nullopt, cannotRead(path, why)};
     };
-    FileBytes file = readRegularFile(path, referenceFileLimit, "reference table");
+    FileBytes file =
+        readRegularFile(path, referenceFileLimit, "reference table", windows1252Growth);
     if (!file.bytes) {
         return failure(file.error);
     }

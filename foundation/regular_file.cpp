@@ -16,7 +16,7 @@ std::string sizeText(std::size_t bytes) {
 }
 
 FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
-                          std::string_view kind) {
+                          std::string_view kind, std::size_t growth) {
     const auto failure = [](std::string why) {
         return FileBytes{std::nullopt, std::move(why)};
     };
@@ -40,7 +40,9 @@ FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
     // One buffer of the file's size; a file that grows while it is read is followed up to the
     // limit.
     const auto size = static_cast<std::size_t>(file.size());
-    std::string bytes(size, '\0');
+    std::string bytes;
+    bytes.reserve(size * growth);
+    bytes.resize(size);
     std::size_t got = 0;
     while (got < size) {
         const auto n = file.read(bytes.data() + got, size - got);

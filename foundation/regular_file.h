@@ -19,8 +19,10 @@ struct FileBytes {
 };
 
 // kind names the file in the size clause: "it is larger than 64 MiB, the most a <kind> may hold".
+// The bytes come with capacity for growth times their size, for a caller that makes its text in
+// place; the room is left untouched, so it takes no memory until it is used.
 FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
-                          std::string_view kind);
+                          std::string_view kind, std::size_t growth = 1);
 
 // "64 MiB", "512 KiB", "100 bytes".
 std::string sizeText(std::size_t bytes);
