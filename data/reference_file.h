@@ -4,33 +4,34 @@
 // are removed and which then cuts at its commas into exactly 28 cells is one stone. Nothing is
 // quoted or escaped: a comma always separates cells, and writers put "^" where they mean a comma.
 
-#include "data/stones.h"
+#include "data/stone_list.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
-#include <vector>
 
 namespace velmora {
 
 // The reference set held in a whole file's text: the rows whose NEW cell is "1", in
 // ascending order of StoneName (scalar values after normalization, case-sensitive); equal names
 // keep their file order.
-std::vector<Stones> parseReferenceText(std::string_view text);
+StoneList parseReferenceText(std::string_view text);
 
 // The most stones a reference table may hold: some hundreds of times the shipped table. Each
-// stone takes a record of 28 texts whatever its cells hold, so it is the count of stones, more
+// stone takes a record of 28 cells whatever its cells hold, so it is the count of stones, more
 // than the file's size, that bounds the memory a table takes.
 inline constexpr std::size_t referenceStoneLimit = 200000;
 
 struct ReferenceTable {
-    std::vector<Stones> stones; // the reference set, as parseReferenceText gives it
+    StoneList stones;           // the reference set, as parseReferenceText gives it
     std::size_t rows = 0;       // lines after the header that cut into 28 cells, whatever their NEW
     bool headerAlone = false;   // a 28-cell header line and nothing after it but empty lines
     bool tooManyStones = false; // more than referenceStoneLimit: stones stays empty
 };
 
 // The reference set and what the text held besides, to tell a table with no stone marked for
-// inclusion from a file that is no table at all.
-ReferenceTable parseReferenceTable(std::string_view text);
+// inclusion from a file that is no table at all. The stones keep the text, and their cells lie in
+// it.
+ReferenceTable parseReferenceTable(std::string text);
 
 } // namespace velmora

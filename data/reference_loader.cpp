@@ -24,7 +24,8 @@ ReadText readTextFile(const std::filesystem::path& path) {
     const auto failure = [&path](const std::string& why) {
         return ReadText{std::nullopt, cannotRead(path, why)};
     };
-    FileBytes file = readRegularFile(path, referenceFileLimit, "reference table");
+    FileBytes file =
+        readRegularFile(path, referenceFileLimit, "reference table", windows1252Growth);
     if (!file.bytes) {
         return failure(file.error);
     }
@@ -45,13 +46,13 @@ ReferenceLoad loadReferenceSet(const std::optional<std::filesystem::path>& path,
     ReferenceLoad load{true, {}};
     ReferenceTable table;
     {
-        // The text goes as soon as the records are made.
-        const ReadText read = readTextFile(*path);
+        // The text becomes the table's: its records' cells lie in it.
+        ReadText read = readTextFile(*path);
         if (!read.text) {
             out << read.error << std::endl;
             return {};
         }
-        table = parseReferenceTable(*read.text);
+        table = parseReferenceTable(std::move(*read.text));
     }
     if (table.tooManyStones) {
         out << cannotRead(*path, "it holds more than " + std::to_string(referenceStoneLimit) +
@@ -64,7 +65,7 @@ ReferenceLoad loadReferenceSet(const std::optional<std::filesystem::path>& path,
                             " holds no stone: no line after the first has the 28 "
                             "comma-separated columns of a reference table";
     }
-    arr_stones = StoneList(std::move(table.stones));
+    arr_stones = std::move(table.stones);
     arr_stonesGlobal = arr_stones;
     return load;
 }

@@ -16,6 +16,9 @@ public:
     StoneList() = default;
     StoneList(std::vector<Stones> stones)
         : stones_(std::make_shared<const std::vector<Stones>>(std::move(stones))) {}
+    // Stones whose cells lie in a text that the pointer's owner keeps alive with them.
+    explicit StoneList(std::shared_ptr<const std::vector<Stones>> stones)
+        : stones_(std::move(stones)) {}
 
     std::size_t size() const { return stones_ ? stones_->size() : 0; }
     bool empty() const { return size() == 0; }

@@ -61,6 +61,44 @@ DecodedText convert(std::string_view bytes, const char* encoding) {
     return {std::move(out), {}};
 }
 
+// The UTF-8 form of every byte in Windows-1252, as ICU converts it; empty for a byte it has no
+// character for.
+const std::array<std::string, 256>& windows1252() {
+    static const auto table = [] {
+        std::array<std::string, 256> t;
+        for (std::size_t b = 0; b < t.size(); ++b) {
+            const char byte = static_cast<char>(b);
+            t[b] = convert(std::string_view(&byte, 1), "windows-1252").text.value_or("");
+        }
+        return t;
+    }();
+    return table;
+}
+
+// One byte is one character, so the text is written from the end backward within the bytes' own
+// buffer: the file and its text are never held at once, and when the buffer has room enough for
+// the text (see decodeText) none is taken at all.
+DecodedText fromWindows1252(std::string bytes) {
+    const auto& table = windows1252();
+    std::size_t size = 0;
+    for (const char c : bytes) {
+        const std::string& utf8 = table[static_cast<unsigned char>(c)];
+        if (utf8.empty()) {
+            return {std::nullopt, "the text is not valid windows-1252"};
+        }
+        size += utf8.size();
+    }
+    std::size_t from = bytes.size();
+    bytes.resize(size);
+    // Every character lands at or after its own byte, so none is written over before it is read.
+    for (std::size_t to = size; from > 0;) {
+        const std::string& utf8 = table[static_cast<unsigned char>(bytes[--from])];
+        to -= utf8.size();
+        std::memmove(bytes.data() + to, utf8.data(), utf8.size());
+    }
+    return {std::move(bytes), {}};
+}
+
 } // namespace
 
 bool isValidUtf8(std::string_view bytes) {
@@ -108,7 +146,7 @@ DecodedText decodeText(std::string bytes) {
     if (isValidUtf8(bytes)) {
         return {std::move(bytes), {}};
     }
-    return convert(bytes, "windows-1252");
+    return fromWindows1252(std::move(bytes));
 }
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 // Windows-1252 otherwise: that is how spreadsheet programs on Western Windows save CSV, and the
 // reference table is edited in one.
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,7 +17,12 @@ struct DecodedText {
     std::string error;               // why there is no text
 };
 
+// Text in Windows-1252 is made within the bytes' own buffer, in place when its capacity holds
+// windows1252Growth times their size.
 DecodedText decodeText(std::string bytes);
+
+// The most bytes of UTF-8 that one byte of Windows-1252 becomes.
+inline constexpr std::size_t windows1252Growth = 3;
 
 bool isValidUtf8(std::string_view bytes);
 

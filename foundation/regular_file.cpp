@@ -1,9 +1,6 @@
 #include "foundation/regular_file.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
+#include "foundation/readable_file.h"
 
 namespace velmora {
 
@@ -19,7 +16,7 @@ std::string sizeText(std::size_t bytes) {
 }
 
 FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
-                          std::string_view kind) {
+                          std::string_view kind, std::size_t growth) {
     const auto failure = [](std::string why) {
         return FileBytes{std::nullopt, std::move(why)};
     };
@@ -27,45 +24,52 @@ FileBytes readRegularFile(const std::filesystem::path& path, std::size_t limit,
         return failure("it is larger than " + sizeText(limit) + ", the most a " +
                        std::string(kind) + " may hold");
     };
-    // The status comes from stat, which never waits on a pipe as opening it would.
-    std::error_code ec;
-    const auto status = std::filesystem::status(path, ec);
-    if (ec) {
-        return failure(ec.message());
+    ReadableFile file(path);
+    if (!file.isOpen()) {
+        return failure(file.error());
     }
-    if (std::filesystem::is_directory(status)) {
+    if (file.kind() == ReadableFile::Kind::Folder) {
         return failure("it is a folder");
     }
-    if (!std::filesystem::is_regular_file(status)) {
+    if (file.kind() != ReadableFile::Kind::Regular) {
         return failure("it is not a file but a device, a pipe or a socket");
     }
-    const std::uintmax_t size = std::filesystem::file_size(path, ec);
-    if (ec) {
-        return failure(ec.message());
-    }
-    if (size > limit) {
+    if (file.size() > limit) {
         return tooLarge();
-    }
-    std::unique_ptr<std::FILE, decltype(&std::fclose)> file(std::fopen(path.c_str(), "rb"),
-                                                            &std::fclose);
-    if (!file) {
-        return failure(std::strerror(errno));
     }
     // One buffer of the file's size; a file that grows while it is read is followed up to the
     // limit.
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-    if (bytes.size() == size) {
+    const auto size = static_cast<std::size_t>(file.size());
+    std::string bytes;
+    bytes.reserve(size * growth);
+    bytes.resize(size);
+    std::size_t got = 0;
+    while (got < size) {
+        const auto n = file.read(bytes.data() + got, size - got);
+        if (!n) {
+            return failure(file.error());
+        }
+        if (*n == 0) {
+            break;
+        }
+        got += *n;
+    }
+    bytes.resize(got);
+    if (got == size) {
         char chunk[1 << 16];
-        while (const std::size_t n = std::fread(chunk, 1, sizeof chunk, file.get())) {
-            if (n > limit - bytes.size()) {
+        for (;;) {
+            const auto n = file.read(chunk, sizeof chunk);
+            if (!n) {
+                return failure(file.error());
+            }
+            if (*n == 0) {
+                break;
+            }
+            if (*n > limit - bytes.size()) {
                 return tooLarge();
             }
-            bytes.append(chunk, n);
+            bytes.append(chunk, *n);
         }
-    }
-    if (std::ferror(file.get())) {
-        return failure(std::strerror(errno));
     }
     return {std::move(bytes), {}};
 }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const velmora::DecodedText decoded =
@@ -20,8 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const velmora::ReferenceTable table = velmora::parseReferenceTable(*decoded.text);
     assert(table.stones.size() <= table.rows);
     for (std::size_t i = 1; i < table.stones.size(); ++i) {
-        const std::string& a = table.stones[i - 1].StoneName;
-        const std::string& b = table.stones[i].StoneName;
+        const std::string_view a = table.stones[i - 1].StoneName;
+        const std::string_view b = table.stones[i].StoneName;
         assert(!velmora::text::isAscii(a) || !velmora::text::isAscii(b) || !(b < a));
     }
     for (const velmora::Stones& stone : table.stones) {

@@ -9,8 +9,8 @@ namespace velmora {
 namespace {
 
 bool hasColor(const Stones& stone, const std::string& lowerColor) {
-    for (const std::string* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
-                                    &stone.Color5, &stone.Color6}) {
+    for (const Cell* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
+                             &stone.Color5, &stone.Color6}) {
         if (text::equals(text::lowercased(*cell), lowerColor)) {
             return true;
         }

@@ -29,8 +29,8 @@ RankingTable::RankingTable(const StoneList& stones) : stones_(stones) {
             stone.Birefringence == "none" ? ValueSpan{0, 0} : spanOf(stone.Birefringence);
         row.aggregate = stone.Birefringence == "not measurable (aggregate)" ||
                         stone.Birefringence == "not measurable (organic)";
-        for (const std::string* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
-                                        &stone.Color5, &stone.Color6}) {
+        for (const Cell* cell : {&stone.Color1, &stone.Color2, &stone.Color3, &stone.Color4,
+                                 &stone.Color5, &stone.Color6}) {
             row.namesColor = row.namesColor || !cell->empty();
             row.colors |= cell->empty() ? 0 : colorBit(*cell);
         }

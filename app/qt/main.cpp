@@ -7,7 +7,6 @@
 #include "app/qt/options.h"
 #include "app/qt/qt_locale.h"
 #include "app/qt/qt_localized_strings.h"
-#include "app/qt/qt_pdf_leaks.h"
 #include "app/qt/qt_run_loop.h"
 #include "app/qt/sqlite_store_loader.h"
 #include "app/qt/startup_report.h"

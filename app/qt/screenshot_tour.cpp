@@ -5,7 +5,6 @@
 #include "app/qt/application_shell.h"
 #include "app/qt/dialog_screen_presenter.h"
 #include "app/qt/light_appearance.h"
-#include "app/qt/qt_pdf_leaks.h"
 #include "app/qt/qt_run_loop.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"

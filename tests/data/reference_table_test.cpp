@@ -23,7 +23,7 @@ namespace {
 
 struct Table {
     std::vector<std::string> lines; // every line after the header, but a final empty one
-    std::vector<Stones> rows;       // every included row of 28 cells
+    StoneList rows;                 // every included row of 28 cells
 };
 
 const Table& shippedTable() {
@@ -95,7 +95,7 @@ TEST(ShippedReferenceTable, EveryStoneHasItsRangesFamilyAndColoursAndIsUnique) {
         EXPECT_GT(colours, 0) << s.StoneName << " has no colour";
         const auto id = parseCNumber(s.StoneID);
         EXPECT_TRUE(id && *id > 0 && *id == static_cast<long>(*id) &&
-                    s.StoneID.find_first_not_of("0123456789") == std::string::npos)
+                    s.StoneID.view().find_first_not_of("0123456789") == std::string::npos)
             << s.StoneName << ": StoneID " << s.StoneID;
         EXPECT_TRUE(ids.insert(s.StoneID).second) << "StoneID " << s.StoneID << " twice";
         EXPECT_TRUE(names.insert(text::normalized(s.StoneName)).second) << s.StoneName << " twice";
@@ -178,7 +178,7 @@ TEST(ShippedReferenceTable, CorrectedAndAddedRowsHoldTheirSourcedValues) {
         check("hardness", c.hardness, s->Hardness);
         check("birefringence", c.birefringence, s->Birefringence);
         check("family", c.family, s->StoneFamily);
-        EXPECT_NE(s->Description2.find(c.text), std::string::npos)
+        EXPECT_NE(s->Description2.view().find(c.text), std::string::npos)
             << c.name << " does not say \"" << c.text << "\"";
     }
 }
@@ -241,8 +241,9 @@ TEST(ShippedReferenceTable, SpotReadingsQuotedInTheDescriptionsLieInsideTheRange
     for (const auto& s : shippedTable().rows) {
         const auto low = parseCNumber(s.RiMin);
         const auto high = parseCNumber(s.RiMax);
-        for (const auto* text : {&s.Description1, &s.Description2, &s.Description3}) {
-            for (std::sregex_iterator m(text->begin(), text->end(), spot), end; m != end; ++m) {
+        for (const std::string description : {s.Description1, s.Description2, s.Description3}) {
+            for (std::sregex_iterator m(description.begin(), description.end(), spot), end;
+                 m != end; ++m) {
                 for (const std::size_t group : {1u, 2u}) {
                     if ((*m)[group].matched) {
                         ++quoted;

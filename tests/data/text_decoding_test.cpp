@@ -37,9 +37,17 @@ TEST(DecodeText, AMarkSelectsTheEncodingAndWithoutOneInvalidUtf8IsWindows1252) {
         {"ascii of more than eight bytes \xE2\x80\xA8",
          "ascii of more than eight bytes \xE2\x80\xA8"},
         {"\xED\xA0\x80", "\xC3\xAD\xC2\xA0\xE2\x82\xAC"}, // nor is a surrogate
+        // Characters of one, two and three bytes in every order, made in place from the end.
+        {std::string("\x80\x80") + "a\xE9\x80\xFF" + std::string(9, 'b') + "\xE9",
+         std::string("\xE2\x82\xAC\xE2\x82\xAC") + "a\xC3\xA9\xE2\x82\xAC\xC3\xBF" +
+             std::string(9, 'b') + "\xC3\xA9"},
     };
     for (const auto& [bytes, text] : cases) {
         EXPECT_EQ(decodeText(bytes).text, text) << bytes;
+        // The same within a buffer with room for the text, as a file is read.
+        std::string roomy = bytes;
+        roomy.reserve(bytes.size() * windows1252Growth);
+        EXPECT_EQ(decodeText(std::move(roomy)).text, text) << bytes;
     }
     // Broken text under a mark has no fallback.
     EXPECT_FALSE(decodeText(std::string("\xFF\xFE"

@@ -12,8 +12,8 @@ using test::TempDir;
 
 constexpr std::size_t limit = 1 << 20;
 
-// Each of these would hang, grow without end or abort if it were opened and read; the refusal
-// comes from the file's status, before it is opened.
+// Each of these would hang, grow without end or abort if it were read; the refusal comes from the
+// status of the file as opened, which never waits on a pipe, before anything is read.
 TEST(ReadRegularFile, RefusesWhatIsNoRegularFileOrTooLargeBeforeReadingIt) {
     TempDir dir;
     const auto fifo = dir.path() / "pipe";
@@ -22,9 +22,12 @@ TEST(ReadRegularFile, RefusesWhatIsNoRegularFileOrTooLargeBeforeReadingIt) {
     dir.write("sparse.csv", "");
     std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30); // 8 GiB of nothing
     const auto justOver = dir.write("over.csv", std::string(limit + 1, 'x'));
+    const auto linkToPipe = dir.path() / "pipe.csv";
+    std::filesystem::create_symlink(fifo, linkToPipe);
     const std::pair<std::filesystem::path, std::string> refused[] = {
         {dir.path(), "it is a folder"},
         {fifo, "it is not a file but a device, a pipe or a socket"},
+        {linkToPipe, "it is not a file but a device, a pipe or a socket"},
         {"/dev/zero", "it is not a file but a device, a pipe or a socket"},
         {"/dev/urandom", "it is not a file but a device, a pipe or a socket"},
         {sparse, "it is larger than 1 MiB, the most a table may hold"},

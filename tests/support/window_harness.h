@@ -29,6 +29,8 @@ namespace velmora::test {
 struct WindowSetup {
     // Reference rows after the header (see reference_rows.h); nothing: no reference file at all.
     std::optional<std::vector<std::string>> rows = std::vector<std::string>{};
+    // A reference file of the test's own, read instead of one written from rows.
+    std::optional<std::filesystem::path> referenceFile = std::nullopt;
     std::string decimalSeparator = ".";
     // False: the controller is made but its view not loaded.
     bool loadView = true;
@@ -60,9 +62,10 @@ public:
                                                                notificationCenter, log)
                         : nullptr),
           controller(window, {runLoop, notificationCenter, alertPresenter, locale,
-                              setup.rows ? std::optional(dir.write("AllStoneNew.csv",
-                                                                   referenceText(*setup.rows)))
-                                         : std::nullopt,
+                              setup.referenceFile ? setup.referenceFile
+                              : setup.rows        ? std::optional(dir.write("AllStoneNew.csv",
+                                                                            referenceText(*setup.rows)))
+                                                  : std::nullopt,
                               standardOutput, screens,
                               connector ? static_cast<InstrumentLink&>(*connector) : instrument}) {
         if (setup.loadView) {

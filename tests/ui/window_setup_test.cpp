@@ -2,6 +2,7 @@
 #include "tests/support/window_harness.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace velmora::test {
 namespace {
@@ -47,15 +48,45 @@ TEST(Setup, TakesTheLocalesSeparatorAndEndsInTheReadingTabWithTheSetLoadedButNot
     EXPECT_EQ(h.standardOutput.str(), "");
 }
 
-TEST(Setup, AMissingReferenceFileIsToldOnStandardOutputAndTheWindowGoesOn) {
+TEST(Setup, AMissingReferenceFileIsToldInAnAlertAndTheWindowGoesOn) {
     WindowHarness missing({.rows = std::nullopt});
-    EXPECT_NE(missing.standardOutput.str().find("AllStoneNew.csv"), std::string::npos);
+    ASSERT_EQ(missing.alertPresenter.alerts.size(), 1u);
+    EXPECT_NE(missing.alertPresenter.alerts[0].message.find("AllStoneNew.csv"), std::string::npos);
     missing.click(missing.window.bvtn_dictionary);
-    EXPECT_EQ(missing.alertPresenter.alerts.at(0).message, "Result");
-    EXPECT_EQ(missing.alerts(), std::vector<std::string>{"Not Found in Record"});
+    EXPECT_EQ(missing.alertPresenter.alerts.at(1).message, "Result");
+    EXPECT_EQ(missing.alerts(),
+              (std::vector<std::string>{"Every search will find nothing.", "Not Found in Record"}));
     // No row 0 to show: the detail stays empty.
     EXPECT_EQ(missing.window.txt_RI.text(), "");
     EXPECT_EQ(missing.window.tableView.selectedRow(), TableView::noSelection);
+}
+
+// Whatever keeps a named reference file from being read is told once the window is up, and the
+// window goes on with an empty set: none of these is waited on or read whole.
+TEST(Setup, AReferenceFileThatCannotBeReadIsToldInAnAlert) {
+    TempDir dir;
+    const auto fifo = dir.path() / "pipe.csv";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    const auto sparse = dir.write("huge.csv", "");
+    std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
+    const std::pair<std::filesystem::path, std::string> files[] = {
+        {dir.path(), "it is a folder"},
+        {fifo, "a device, a pipe or a socket"},
+        {"/dev/zero", "a device, a pipe or a socket"},
+        {sparse, "larger than 64 MiB"},
+        {dir.path() / "missing.csv", "No such file or directory"},
+        {dir.write("nul.csv", std::string(1024, '\0')), "holds no stone"},
+    };
+    for (const auto& [path, reason] : files) {
+        WindowHarness h({.referenceFile = path});
+        ASSERT_EQ(h.alertPresenter.alerts.size(), 1u) << path;
+        const auto& alert = h.alertPresenter.alerts[0];
+        EXPECT_NE(alert.message.find(reason), std::string::npos) << alert.message;
+        EXPECT_NE(alert.message.find(path.filename().string()), std::string::npos) << path;
+        EXPECT_EQ(alert.style, AlertStyle::Warning);
+        EXPECT_EQ(h.state().arr_stonesGlobal.size(), 0u);
+        expectReadingTab(h);
+    }
 }
 
 // A table saved with semicolons yields no stone: the user is told once the window is up, where a

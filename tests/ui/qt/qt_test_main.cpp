@@ -2,7 +2,6 @@
 // started from, with the look the application has.
 
 #include "app/qt/light_appearance.h"
-#include "app/qt/qt_pdf_leaks.h"
 
 #include <QApplication>
 #include <gmock/gmock.h>
