@@ -6,8 +6,12 @@
 namespace velmora::qt {
 
 ApplicationShell::ApplicationShell(ViewControllerEnvironment environment, AppDelegate& delegate)
-    : window_(elements_), controller_(elements_, std::move(environment)), delegate_(delegate) {
+    : window_(elements_), controller_(elements_, environment), delegate_(delegate),
+      recordsDialogs_(&window_), report_(environment.locale.decimalSeparator()) {
     controller_.viewDidLoad();
+    // The records live in the container, so a record's change is one of its unsaved changes.
+    controller_.setRecordsServices(
+        {[this] { return delegate_.persistentContainer().records(); }, &recordsDialogs_, &report_});
     QObject::connect(window_.saveAction(), &QAction::triggered, &window_,
                      [this] { delegate_.saveAction(); });
     QObject::connect(window_.quitAction(), &QAction::triggered, &window_,

@@ -5,6 +5,8 @@
 // Linux and Windows; on macOS the application stays, as it does there.
 
 #include "app/app_delegate.h"
+#include "app/qt/dialog_records_dialogs.h"
+#include "app/qt/module_report_output.h"
 #include "ui/main_window.h"
 #include "ui/qt/main_window_widget.h"
 #include "ui/view_controller.h"
@@ -21,6 +23,10 @@ public:
 
     // The user asks to quit. True when the application is quitting.
     bool requestQuit();
+    // Lists the records, opening the container: once the window is up, so that an alert about
+    // the container comes over the window.
+    void showRecords() { controller_.showRecords(); }
+    ViewController& controller() { return controller_; }
 
 private:
     bool windowMayClose();
@@ -29,6 +35,8 @@ private:
     MainWindowWidget window_;
     ViewController controller_;
     AppDelegate& delegate_;
+    DialogRecordsDialogs recordsDialogs_;
+    ModuleReportOutput report_;
 };
 
 } // namespace velmora::qt
