@@ -23,9 +23,6 @@ public:
 
     // The user asks to quit. True when the application is quitting.
     bool requestQuit();
-    // Lists the records, opening the container: once the window is up, so that an alert about
-    // the container comes over the window.
-    void showRecords() { controller_.showRecords(); }
     ViewController& controller() { return controller_; }
 
 private:

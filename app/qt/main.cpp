@@ -118,10 +118,8 @@ int run(int argc, char** argv) {
         shell.window().resize(shell.window().size().boundedTo(screen->availableSize()));
     }
     // Looking the icon up parses the icon theme's index, which the first paint does not need.
-    afterFirstPaint(shell.window(), [&shell] {
-        QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID));
-        shell.showRecords();
-    });
+    afterFirstPaint(shell.window(),
+                    [] { QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID)); });
     shell.window().show();
     return QApplication::exec();
 }
