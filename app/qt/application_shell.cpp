@@ -7,8 +7,8 @@
 namespace velmora::qt {
 
 ApplicationShell::ApplicationShell(ViewControllerEnvironment environment, AppDelegate& delegate)
-    : window_(elements_), controller_(elements_, environment), delegate_(delegate),
-      recordsDialogs_(&window_), report_(environment.locale.decimalSeparator()) {
+    : window_(elements_), controller_(elements_, std::move(environment)), delegate_(delegate),
+      recordsDialogs_(&window_), report_(controller_.state().decimalSeparator) {
     controller_.viewDidLoad();
     // The records live in the container, so a record's change is one of its unsaved changes.
     controller_.setRecordsServices(
