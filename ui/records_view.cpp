@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <initializer_list>
 
 namespace velmora {
 namespace {
@@ -29,7 +30,6 @@ RecordsView::RecordsView(MainWindow& window, AlertPresenter& alerts, Measure mea
     w_.tbl_records.setDataSource(this);
     w_.tbl_records.setDelegate(this);
     w_.txt_recordsFilter.setDelegate(this);
-    w_.txt_recordDetail.setText({});
     w_.btn_saveRecord.setAction([this](Button&) { saveRecord(); });
     w_.btn_updateRecord.setAction([this](Button&) { updateRecord(); });
     w_.btn_deleteRecord.setAction([this](Button&) { deleteRecord(); });
@@ -260,7 +260,9 @@ bool RecordsView::tableViewShouldSelectRow(TableView&, int row) {
     return true;
 }
 
+// A new filter is a new selection: the reports take every record it lists until one is chosen.
 void RecordsView::controlTextDidChange(TextField*) {
+    chosenId_ = 0;
     reload();
 }
 

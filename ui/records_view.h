@@ -2,7 +2,8 @@
 
 // The Records view: the kept records, newest first, narrowed by a filter on the label or the
 // conclusion; the chosen record's page; its notes and conclusion edited; records deleted once
-// confirmed, exported to CSV, written to a PDF report or printed. Saving a record takes the
+// confirmed, exported to CSV, written to a PDF report or printed: the chosen record, or, with
+// none chosen, every listed one. Saving a record takes the
 // current measurement as the window holds it, in one action.
 //
 // Every change goes into the store, which holds it as unsaved until the container is saved, so
@@ -56,7 +57,7 @@ public:
                                            int row) override;
     double tableViewHeightOfRow(TableView& table, int row) override;
     bool tableViewShouldSelectRow(TableView& table, int row) override;
-    // The filter narrows the list as it is typed.
+    // The filter narrows the list as it is typed, and lets go of the chosen record.
     void controlTextDidChange(TextField* object) override;
     bool controlTextShouldEndEditing(TextField& control, FieldEditor& editor) override;
 

@@ -188,6 +188,10 @@ TEST(RecordsView, ExportsTheListedRecordsAndReportsTheChosenOneOrAllListed) {
     RecordsBench b;
     b.save("Lot 7, \"blue\"");
     b.save("Lot 8");
+    EXPECT_EQ(b.view.chosen()->label, "Lot 8");
+    b.filter("7");
+    b.filter("");
+    EXPECT_EQ(b.view.chosen(), nullptr);
     b.filter("7");
     b.dialogs.files = {dir.path() / "out.csv"};
     b.view.exportCsv();
@@ -199,7 +203,7 @@ TEST(RecordsView, ExportsTheListedRecordsAndReportsTheChosenOneOrAllListed) {
 
     b.dialogs.files = {dir.path() / "all.pdf", dir.path() / "one.pdf"};
     b.filter("");
-    b.view.writeReport(); // Lot 8 was chosen as it was saved, and the filter hid it
+    b.view.writeReport(); // the filter let go of Lot 8, chosen as it was saved
     b.view.chooseRecord(1);
     b.view.writeReport();
     b.view.printReport();
