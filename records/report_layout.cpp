@@ -21,6 +21,20 @@ std::string numberText(const std::optional<double>& value, std::string_view sepa
     return withSeparator(cNumberText(value), separator);
 }
 
+// Densities are written to the hundredth at least, as labs give them: 4.00, 2.65, 3.515.
+std::string sgText(const std::optional<double>& value, std::string_view separator) {
+    if (!value) {
+        return {};
+    }
+    std::string text = cNumberText(*value);
+    const auto point = text.find('.');
+    const std::size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
+    if (text.find('e') == std::string::npos && decimals < 2) {
+        text += std::string(point == std::string::npos ? "." : "") + std::string(2 - decimals, '0');
+    }
+    return withSeparator(text, separator);
+}
+
 std::string riText(const std::optional<double>& value, std::string_view separator) {
     return value ? readingText(*value, separator) : std::string();
 }
@@ -77,7 +91,7 @@ ReportPage reportPage(const StoneRecord& r, std::string_view separator) {
     addLine(page.readings, "R.I. high", riText(r.ri.high, separator));
     addLine(page.readings, "Birefringence", riText(r.ri.birefringence, separator));
     addLine(page.readings, "Optic character", r.ri.verdict);
-    addLine(page.readings, "S.G.", numberText(r.sg, separator));
+    addLine(page.readings, "S.G.", sgText(r.sg, separator));
     if (r.weighing) {
         addLine(page.readings, "Weighing",
                 "in air " + numberText(r.weighing->inAir, separator) + ", in water " +

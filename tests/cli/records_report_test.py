@@ -10,7 +10,7 @@ import tempfile
 RECORDS = [
     # label, --ri, --ri-high, --sg, the readings as the page prints them
     ('Lot 7, "the blue one"', "1,544", "1,553", "2,65", ["1,544", "1,553", "0,009", "2,65"]),
-    ("Cliente Müller, ring 3", "1,762", "1,770", "4,00", ["1,762", "1,770", "0,008", "4"]),
+    ("Cliente Müller, ring 3", "1,762", "1,770", "4,00", ["1,762", "1,770", "0,008", "4,00"]),
 ]
 
 

@@ -44,6 +44,20 @@ TEST(ReportLayout, WritesTheReadingsWithTheUsersSeparatorAndLeavesOutWhatWasNotM
     EXPECT_EQ(page.conclusion, "Not concluded");
 }
 
+TEST(ReportLayout, WritesTheSgToTheHundredthAtLeast) {
+    const struct {
+        double sg;
+        const char* text;
+    } cases[] = {{4, "4,00"}, {2.6, "2,60"}, {2.65, "2,65"}, {3.515, "3,515"}, {10, "10,00"}};
+    for (const auto& c : cases) {
+        StoneRecord r;
+        r.sg = c.sg;
+        const ReportPage page = reportPage(r, ",");
+        ASSERT_EQ(page.readings.size(), 1u);
+        EXPECT_EQ(page.readings[0].value, c.text) << c.sg;
+    }
+}
+
 TEST(ReportLayout, TheTextNamesEveryPartOnce) {
     StoneRecord r = quartzRecord();
     r.conclusion = "Amethyst";
