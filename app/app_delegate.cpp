@@ -14,10 +14,11 @@ void AppDelegate::applicationWillTerminate() {
 PersistentStore& AppDelegate::persistentContainer() {
     if (!persistentContainer_) {
         persistentContainer_ = makeContainer_();
-        // The application carries on without its records: the log tells why (a file kept
-        // aside and started anew is usable all the same).
+        // The application carries on, with a new store in place of a file kept aside or without
+        // records at all: either way the user hears of it once, before relying on the records.
         if (const auto error = persistentContainer_->loadPersistentStores()) {
             log_.error("Unresolved error " + *error);
+            presentLoadError(*error, persistentContainer_->records() != nullptr);
         }
     }
     return *persistentContainer_;
@@ -65,6 +66,21 @@ TerminateReply AppDelegate::applicationShouldTerminate() {
     const std::size_t answer =
         alertPresenter_.runModal(question, info, AlertStyle::Warning, {quitButton, cancelButton});
     return answer == 1 ? TerminateReply::Cancel : TerminateReply::Now;
+}
+
+void AppDelegate::presentLoadError(const std::string& description, bool startedAnew) {
+    const std::string message = startedAnew
+                                    ? strings_.localizedString("The records file could not be read")
+                                    : strings_.localizedString("The records cannot be opened");
+    const std::string consequence =
+        startedAnew
+            ? strings_.localizedString("The file is left as it was, for you or your support "
+                                       "to look into.")
+            : strings_.localizedString("Velmora works on without records: none can be "
+                                       "saved or read until the cause is put right and "
+                                       "Velmora started again.");
+    alertPresenter_.runModal(message, description + "\n\n" + consequence, AlertStyle::Warning,
+                             {"OK"});
 }
 
 void AppDelegate::presentError(const std::string& description) {

@@ -37,6 +37,8 @@ public:
 
 private:
     void presentError(const std::string& description);
+    // startedAnew: the file was kept aside and a new store opened in its place.
+    void presentLoadError(const std::string& description, bool startedAnew);
 
     HIDDeviceConnector& hidDeviceConnector_;
     ContainerFactory makeContainer_;

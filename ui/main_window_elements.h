@@ -64,4 +64,18 @@
     ELEMENT(TextField, txt_stroneFamily)                                                           \
     ELEMENT(TextView, txt_commonSource)                                                            \
     ELEMENT(TextView, txt_otherInformation)                                                        \
-    ELEMENT(TextView, txt_otherProduct)
+    ELEMENT(TextView, txt_otherProduct)                                                            \
+    /* Records */                                                                                  \
+    ELEMENT(Button, btn_saveRecord)                                                                \
+    ELEMENT(TextField, txt_recordsFilter)                                                          \
+    ELEMENT(TableView, tbl_records,                                                                \
+            std::vector<TableColumn>{{"labelColumn"}, {"dateColumn"}, {"conclusionColumn"}})       \
+    ELEMENT(TextView, txt_recordDetail)                                                            \
+    ELEMENT(TextField, txt_recordNotes)                                                            \
+    ELEMENT(PopUpButton, btn_recordConclusion)                                                     \
+    ELEMENT(TextField, txt_recordConclusion)                                                       \
+    ELEMENT(Button, btn_updateRecord)                                                              \
+    ELEMENT(Button, btn_deleteRecord)                                                              \
+    ELEMENT(Button, btn_exportRecords)                                                             \
+    ELEMENT(Button, btn_reportRecords)                                                             \
+    ELEMENT(Button, btn_printRecords)

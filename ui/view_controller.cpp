@@ -10,7 +10,12 @@ ViewController::ViewController(MainWindow& window, ViewControllerEnvironment env
     : MainWindowOutlets(window), environment_(std::move(environment)),
       bestMatches_(
           tbl_bestMatches, lbl_bestMatchesNote,
-          [this](const Stones& stone) { showStoneDetail(stone); }, [this] { rankBestMatches(); }) {
+          [this](const Stones& stone) { showStoneDetail(stone); }, [this] { rankBestMatches(); }),
+      records_(
+          window, environment_.alertPresenter,
+          [this](std::string label) { return recordOfMeasurement(std::move(label)); },
+          environment_.locale.decimalSeparator().empty() ? decimalSeparator
+                                                         : environment_.locale.decimalSeparator()) {
     if (const std::string separator = environment_.locale.decimalSeparator(); !separator.empty()) {
         decimalSeparator = separator;
     }

@@ -18,6 +18,7 @@
 #include "ui/best_matches.h"
 #include "ui/field_editor.h"
 #include "ui/main_window_outlets.h"
+#include "ui/records_view.h"
 #include "ui/screen_presenter.h"
 #include "ui/view_controller_state.h"
 
@@ -118,6 +119,16 @@ public:
     void btn_connect_tap(Button& sender);
     void btn_disConnect_tap(Button& sender);
 
+    // The Records view (record_measurement.cpp, records_view.cpp). Without services it has no
+    // store and says so when used.
+    void setRecordsServices(RecordsServices services);
+    // Lists the records; the store opens on first use.
+    void showRecords();
+    const RecordsView& records() const { return records_; }
+    RecordsView& records() { return records_; }
+    // The record of what the window measures now, under this label.
+    StoneRecord recordOfMeasurement(std::string label) const;
+
 private:
     enum class CheckBoxes { Disable, LeaveEnabled };
 
@@ -144,6 +155,7 @@ private:
     std::vector<NotificationCenter::Token> observations_;
     BestMatches bestMatches_;
     CaptureModel capture_;
+    RecordsView records_;
 };
 
 // Empties an entry, or the field editor holding its text while it is edited.

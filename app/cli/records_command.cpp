@@ -2,6 +2,7 @@
 #include "app/cli/cli.h"
 #include "app/cli/output.h"
 #include "app/cli/ranking_entries.h"
+#include "app/cli/report_writer.h"
 #include "app/cli/store_path.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
@@ -24,7 +25,9 @@ struct RecordsOptions {
     std::optional<std::string> note;
     std::optional<std::string> conclusion;
     RecordId id = 0;
+    std::vector<RecordId> ids;
     std::string csv;
+    std::string pdf;
 };
 
 // The store, open; nothing, with the reason on standard error, when it cannot be opened. A store
@@ -191,6 +194,33 @@ int exportCsv(const Context& context, const RecordsOptions& options) {
     return exitSuccess;
 }
 
+// Every id must name a record: a report missing one the user asked for is no report.
+int report(const Context& context, const RecordsOptions& options) {
+    const auto store = openStore(context, options);
+    if (!store) {
+        return exitAlert;
+    }
+    std::vector<StoneRecord> records;
+    for (const RecordId id : options.ids) {
+        std::optional<StoneRecord> record;
+        if (const auto failed = store->find(id, record)) {
+            *context.err << "records report: " << *failed << '\n';
+            return exitAlert;
+        }
+        if (!record) {
+            *context.err << "records report: no record " << id << '\n';
+            return exitAlert;
+        }
+        records.push_back(std::move(*record));
+    }
+    if (const auto failed =
+            writeReportPdf(records, options.pdf, context.locale().decimalSeparator())) {
+        *context.err << "records report: " << *failed << '\n';
+        return exitAlert;
+    }
+    return exitSuccess;
+}
+
 void addAddCommand(CLI::App& records, Context& context, const std::shared_ptr<RecordsOptions>& o) {
     auto* add = records.add_subcommand(
         "add", "Rank the readings and keep them, with the candidates as they stand, as a new "
@@ -239,6 +269,11 @@ void addRecordsCommand(CLI::App& app, Context& context) {
         ->type_name("FILE")
         ->required();
     exportCommand->callback([&context, o] { context.exitCode = exportCsv(context, *o); });
+    auto* reportCommand = records->add_subcommand(
+        "report", "Write a PDF report, a page a record, as a lab hands it over");
+    reportCommand->add_option("ID", o->ids, "The records' ids")->required();
+    reportCommand->add_option("--pdf", o->pdf, "The PDF file")->type_name("FILE")->required();
+    reportCommand->callback([&context, o] { context.exitCode = report(context, *o); });
 }
 
 } // namespace velmora::cli

@@ -5,6 +5,8 @@
 // Linux and Windows; on macOS the application stays, as it does there.
 
 #include "app/app_delegate.h"
+#include "app/qt/dialog_records_dialogs.h"
+#include "app/qt/module_report_output.h"
 #include "ui/main_window.h"
 #include "ui/qt/main_window_widget.h"
 #include "ui/view_controller.h"
@@ -21,6 +23,7 @@ public:
 
     // The user asks to quit. True when the application is quitting.
     bool requestQuit();
+    ViewController& controller() { return controller_; }
 
 private:
     bool windowMayClose();
@@ -29,6 +32,8 @@ private:
     MainWindowWidget window_;
     ViewController controller_;
     AppDelegate& delegate_;
+    DialogRecordsDialogs recordsDialogs_;
+    ModuleReportOutput report_;
 };
 
 } // namespace velmora::qt

@@ -108,9 +108,54 @@ public:
         clickFirstRow("tbl_bestMatches");
         save(window_, "best-matches.png");
 
+        keepRecords();
+        save(window_, "records.png");
+
         saveScreen("btn_contactUs", "contact.png");
         saveScreen("btn_tutorial", "tutorial.png");
-        return saved_ == 8;
+        return saved_ == 9;
+    }
+
+    // Answers the label the Records view asks for, so the tour opens no dialog.
+    struct Labels final : RecordsDialogs {
+        std::optional<std::string> askLabel() override { return next; }
+        std::optional<std::filesystem::path> chooseSaveFile(const std::string&,
+                                                            const std::string&) override {
+            return std::nullopt;
+        }
+        std::string next;
+    };
+
+    void useLabels(ViewController& controller, AppDelegate& delegate) {
+        controller.setRecordsServices(
+            {[&delegate] { return delegate.persistentContainer().records(); }, &labels_, nullptr});
+    }
+
+    // A morning at the bench: three stones kept, one concluded, the ruby read back.
+    void keepRecords() {
+        labels_.next = "Client 2291, ring";
+        click("btn_saveRecord");
+        click("btn_clearAll");
+        click("check_RI");
+        type("txt_leftRIReading", "1.544");
+        type("txt_leftRIHigh", "1.553");
+        click("check_sg");
+        type("txt_leftSG", "2.65");
+        click("btn_search");
+        labels_.next = "Lot 7, parcel 3 \"violet\"";
+        click("btn_saveRecord");
+        click("btn_clearAll");
+        click("check_RI");
+        type("txt_leftRIReading", "1.718");
+        click("btn_search");
+        labels_.next = "Lot 8, loose stone";
+        click("btn_saveRecord");
+        child<QTabWidget>("resultsTabs")->setCurrentWidget(child<QWidget>("tab_records"));
+        settle();
+        clickRow("tbl_records", 1);
+        type("txt_recordConclusion", "Amethyst (quartz)");
+        type("txt_recordNotes", "Colour zoning along the rhombohedron faces");
+        click("btn_updateRecord");
     }
 
 private:
@@ -147,9 +192,11 @@ private:
         settle();
     }
 
-    void clickFirstRow(const char* name) {
+    void clickFirstRow(const char* name) { clickRow(name, 0); }
+
+    void clickRow(const char* name, int row) {
         auto* table = child<QTableView>(name);
-        const QRect cell = table->visualRect(table->model()->index(0, 1));
+        const QRect cell = table->visualRect(table->model()->index(row, 1));
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
         settle();
     }
@@ -202,6 +249,7 @@ private:
     MainWindowWidget& window_;
     QDir out_;
     int saved_ = 0;
+    Labels labels_;
 };
 
 int run(int argc, char** argv) {
@@ -247,7 +295,9 @@ int run(int argc, char** argv) {
     ApplicationShell shell({runLoop, center, alerts, locale, referenceFilePath(Bundle::main()),
                             std::cerr, screens, instrument},
                            delegate);
-    const bool done = Tour(shell.window(), out).run();
+    Tour tour(shell.window(), out);
+    tour.useLabels(shell.controller(), delegate);
+    const bool done = tour.run();
     instrument.disconnectDataToDevice();
     return done && alerts.count == 0 ? 0 : 1;
 }

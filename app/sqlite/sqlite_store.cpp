@@ -123,7 +123,10 @@ std::optional<std::string> SqliteStore::loadPersistentStores() {
         return "the data model " + dataModel_->string() + " has no versions 1, 2, 3, ...";
     }
     std::error_code error;
-    std::filesystem::create_directories(file_.parent_path(), error);
+    // A bare file name is in the working folder, which is there.
+    if (!file_.parent_path().empty()) {
+        std::filesystem::create_directories(file_.parent_path(), error);
+    }
     if (error) {
         return "cannot create the folder " + file_.parent_path().string() + ": " + error.message();
     }

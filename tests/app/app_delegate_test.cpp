@@ -55,12 +55,33 @@ TEST_F(AppDelegateTest, TheContainerIsMadeOnFirstUseOnlyAndAFreshQuitGoesAheadSi
     EXPECT_THAT(alerts.alerts, IsEmpty());
 }
 
-TEST_F(AppDelegateTest, AStoreThatFailsToLoadIsReportedAndTheApplicationCarriesOn) {
-    AppDelegate& d = delegate({.loadError = "disk full"});
-    d.saveAction();
-    EXPECT_THAT(log.errorLines, ElementsAre("Unresolved error disk full"));
-    EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
-    EXPECT_THAT(alerts.alerts, IsEmpty());
+TEST_F(AppDelegateTest, AStoreThatFailsToLoadIsToldOnceAndTheApplicationCarriesOn) {
+    const struct {
+        bool opens;
+        const char* message;
+        const char* consequence;
+    } cases[] = {
+        {false, "«The records cannot be opened»", "«Velmora works on without records"},
+        {true, "«The records file could not be read»", "«The file is left as it was"},
+    };
+    for (const auto& c : cases) {
+        alerts.alerts.clear();
+        log.errorLines.clear();
+        const std::string why =
+            c.opens ? "Velmora.sqlite could not be used (damaged). It was kept aside as "
+                      "Velmora.unreadable-1.sqlite and a new, empty store started."
+                    : "cannot create the folder /data: Permission denied";
+        AppDelegate& d = delegate({.loadError = why, .opens = c.opens});
+        d.saveAction();
+        d.persistentContainer();
+        EXPECT_THAT(log.errorLines, ElementsAre("Unresolved error " + why));
+        EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
+        ASSERT_EQ(alerts.alerts.size(), 1u) << c.message;
+        EXPECT_EQ(alerts.alerts[0].message, c.message);
+        EXPECT_EQ(alerts.alerts[0].informative.rfind(why + "\n\n" + c.consequence, 0), 0u)
+            << alerts.alerts[0].informative;
+        EXPECT_EQ(alerts.alerts[0].buttons, std::vector<std::string>{"OK"});
+    }
 }
 
 TEST_F(AppDelegateTest, SaveWritesChangesAndShowsAFailure) {

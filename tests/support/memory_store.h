@@ -1,22 +1,96 @@
 #pragma once
 
 // A persistent container in memory that can be told to fail: to load, to take the edits in
-// progress, to save.
+// progress, to save; and its records, which can be told to fail each kind of change. A change
+// leaves the container with unsaved changes, as the real store's open transaction does.
 
 #include "app/persistent_store.h"
+#include "records/record_store.h"
+
+#include <algorithm>
 
 namespace velmora::test {
+
+struct MemoryRecordsSetup {
+    std::optional<std::string> addError = std::nullopt;
+    std::optional<std::string> listError = std::nullopt;
+    std::optional<std::string> updateError = std::nullopt;
+    std::optional<std::string> removeError = std::nullopt;
+};
+
+class MemoryRecords final : public RecordStore {
+public:
+    explicit MemoryRecords(bool& changed) : changed_(changed) {}
+
+    std::optional<std::string> add(StoneRecord& record) override {
+        if (fail.addError) {
+            return fail.addError;
+        }
+        record.id = ++lastId_;
+        kept.insert(kept.begin(), record);
+        changed_ = true;
+        return std::nullopt;
+    }
+    std::optional<std::string> list(std::vector<StoneRecord>& records) const override {
+        if (fail.listError) {
+            return fail.listError;
+        }
+        records = kept;
+        return std::nullopt;
+    }
+    std::optional<std::string> find(RecordId id,
+                                    std::optional<StoneRecord>& record) const override {
+        const auto found = std::find_if(kept.begin(), kept.end(),
+                                        [id](const StoneRecord& r) { return r.id == id; });
+        record = found == kept.end() ? std::nullopt : std::optional(*found);
+        return std::nullopt;
+    }
+    std::optional<std::string> update(const StoneRecord& record) override {
+        if (fail.updateError) {
+            return fail.updateError;
+        }
+        for (StoneRecord& r : kept) {
+            if (r.id == record.id) {
+                r.notes = record.notes;
+                r.conclusion = record.conclusion;
+                changed_ = true;
+            }
+        }
+        return std::nullopt;
+    }
+    std::optional<std::string> remove(RecordId id) override {
+        if (fail.removeError) {
+            return fail.removeError;
+        }
+        std::erase_if(kept, [id](const StoneRecord& r) { return r.id == id; });
+        changed_ = true;
+        return std::nullopt;
+    }
+
+    MemoryRecordsSetup fail;
+    std::vector<StoneRecord> kept; // newest first
+
+private:
+    bool& changed_;
+    RecordId lastId_ = 0;
+};
 
 struct MemoryStoreSetup {
     std::optional<std::string> loadError = std::nullopt;
     bool refusesCommit = false;
     bool hasChanges = false;
     std::optional<std::string> saveError = std::nullopt;
+    // A store that failed to load has no records.
+    bool opens = true;
 };
 
 class MemoryStore final : public PersistentStore {
+    // First: the records tell their changes through it.
+    MemoryStoreSetup setup_;
+
 public:
-    explicit MemoryStore(MemoryStoreSetup setup = {}) : setup_(std::move(setup)) {}
+    explicit MemoryStore(MemoryStoreSetup setup = {})
+        : setup_(std::move(setup)), recordsKept(setup_.hasChanges) {}
 
     std::optional<std::string> loadPersistentStores() override {
         ++loads;
@@ -32,12 +106,11 @@ public:
         ++saves;
         return std::nullopt;
     }
+    RecordStore* records() override { return loads > 0 && setup_.opens ? &recordsKept : nullptr; }
 
     int loads = 0;
     int saves = 0;
-
-private:
-    MemoryStoreSetup setup_;
+    MemoryRecords recordsKept;
 };
 
 } // namespace velmora::test

@@ -1,6 +1,8 @@
 #include "tests/ui/qt/shell_fixture.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QInputDialog>
 #include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -30,6 +32,28 @@ TEST_F(Quit, ClosingTheWindowWithAFailedSaveLetsTheUserStayOrQuitAnyway) {
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(alerts.alerts.size(), 2u);
     EXPECT_EQ(containersMade, 1);
+}
+
+// The label is typed into the real dialog the window asks with.
+TEST_F(Quit, ARecordSavedInTheWindowIsAChangeTheQuitMustSaveOrBeToldToDrop) {
+    open({.store = {.saveError = "cannot save Velmora.sqlite"}});
+    EXPECT_FALSE(delegate().persistentContainer().hasChanges());
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        dialog->setTextValue("Lot 7, \"blue\"");
+        dialog->accept();
+    });
+    click("btn_saveRecord");
+    EXPECT_TRUE(delegate().persistentContainer().hasChanges());
+    EXPECT_THAT(messages(alerts), IsEmpty());
+
+    alerts.answers = {0, 1}; // the error's OK, then Cancel
+    EXPECT_FALSE(window().close());
+    EXPECT_THAT(messages(alerts),
+                ElementsAre("cannot save Velmora.sqlite",
+                            "Could not save changes while quitting. Quit anyway?"));
+    EXPECT_TRUE(window().isVisible());
 }
 
 TEST_F(Quit, FileQuitEndsTheApplicationAndItsInstrumentSession) {

@@ -40,6 +40,7 @@ protected:
     void open(const ShellSetup& setup = {});
 
     qt::MainWindowWidget& window() { return shell_->window(); }
+    AppDelegate& delegate() { return *delegate_; }
     template <class Widget = QWidget> Widget* widget(const char* name) {
         auto* found = window().findChild<Widget*>(name);
         EXPECT_NE(found, nullptr) << name;

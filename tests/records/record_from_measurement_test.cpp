@@ -1,0 +1,105 @@
+#include "data/stones.h"
+#include "records/record_from_measurement.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using namespace std::chrono;
+
+const sys_seconds noon = sys_days(year(2026) / 11 / 23) + hours(12);
+
+RotationSeries seriesOf(std::initializer_list<double> values) {
+    RotationSeries series;
+    for (const double value : values) {
+        series.add(value);
+    }
+    return series;
+}
+
+TEST(RecordFromMeasurement, TakesTheCapturedSeriesBeforeTheTypedReadings) {
+    const struct {
+        const char* name;
+        RotationSeries captured;
+        bool riTicked;
+        std::vector<double> values;
+    } cases[] = {
+        {"captured", seriesOf({1.544, 1.549, 1.553}), true, {1.544, 1.549, 1.553}},
+        {"typed", RotationSeries(), true, {1.76, 1.768}},
+        {"typed, R.I. not ticked", RotationSeries(), false, {}},
+    };
+    for (const auto& c : cases) {
+        MeasurementEntries entries{.ri = c.riTicked, .riText = "1,760", .riHighText = "1,768"};
+        const StoneRecord r =
+            recordFromMeasurement("lot 7", noon, c.captured, entries, {",", ","}, {});
+        EXPECT_EQ(r.ri.values, c.values) << c.name;
+        EXPECT_EQ(r.label, "lot 7");
+        EXPECT_EQ(r.examined, noon);
+    }
+    const StoneRecord typed =
+        recordFromMeasurement("x", noon, RotationSeries(),
+                              {.ri = true, .riText = "1.768", .riHighText = "1.760"}, {}, {});
+    EXPECT_EQ(typed.ri.low, 1.760);
+    EXPECT_EQ(typed.ri.high, 1.768);
+    EXPECT_NE(typed.ri.verdict.find("0.008"), std::string::npos) << typed.ri.verdict;
+}
+
+TEST(RecordFromMeasurement, KeepsOnlyTheTickedReadableEntries) {
+    const MeasurementEntries all{.sg = true,
+                                 .hardness = true,
+                                 .color = true,
+                                 .sgText = "2.65",
+                                 .weightAirText = "0.530",
+                                 .weightWaterText = "0.330",
+                                 .hardnessText = "7",
+                                 .colorName = "Violet"};
+    MeasurementEntries unticked = all;
+    unticked.sg = unticked.hardness = unticked.color = false;
+    MeasurementEntries unreadable = all;
+    unreadable.sgText = "2..6";
+    unreadable.hardnessText = "";
+    MeasurementEntries typedSg = all;
+    typedSg.weightWaterText = "";
+
+    const auto r = [](const MeasurementEntries& e) {
+        return recordFromMeasurement("x", noon, RotationSeries(), e, {}, {});
+    };
+    EXPECT_EQ(r(all).sg, 2.65);
+    ASSERT_TRUE(r(all).weighing);
+    EXPECT_EQ(r(all).weighing->inAir, 0.53);
+    EXPECT_EQ(r(all).weighing->inWater, 0.33);
+    EXPECT_EQ(r(all).hardness, 7);
+    EXPECT_EQ(r(all).color, "Violet");
+
+    EXPECT_FALSE(r(unticked).sg);
+    EXPECT_FALSE(r(unticked).weighing);
+    EXPECT_FALSE(r(unticked).hardness);
+    EXPECT_EQ(r(unticked).color, "");
+
+    EXPECT_FALSE(r(unreadable).sg);
+    EXPECT_FALSE(r(unreadable).weighing) << "weights without the S.G. they gave";
+    EXPECT_FALSE(r(unreadable).hardness);
+
+    EXPECT_EQ(r(typedSg).sg, 2.65);
+    EXPECT_FALSE(r(typedSg).weighing);
+}
+
+TEST(RecordFromMeasurement, KeepsTheCandidatesAsListedWithTheirNumbersAndFits) {
+    Stones quartz;
+    quartz.StoneID = "2";
+    const std::vector<BestMatchRow> rows = {
+        {&quartz, "100%", "Quartz\nAmethyst, Citrine", "Fits every reading", true},
+        {nullptr, "7%", "Glass", "R.I. 0.004 above", false},
+    };
+    const StoneRecord r = recordFromMeasurement("x", noon, RotationSeries(), {}, {}, rows);
+    ASSERT_EQ(r.candidates.size(), 2u);
+    EXPECT_EQ(r.candidates[0].number, "2");
+    EXPECT_EQ(r.candidates[0].name, "Quartz");
+    EXPECT_EQ(r.candidates[0].fit, 100);
+    EXPECT_EQ(r.candidates[1].number, "");
+    EXPECT_EQ(r.candidates[1].fit, 7);
+}
+
+} // namespace
+} // namespace velmora::test

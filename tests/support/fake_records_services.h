@@ -1,0 +1,65 @@
+#pragma once
+
+// The Records view's dialogs and report output, answered from a script and recorded.
+
+#include "ui/records_services.h"
+
+#include <deque>
+
+namespace velmora::test {
+
+class ScriptedRecordsDialogs final : public RecordsDialogs {
+public:
+    std::optional<std::string> askLabel() override {
+        ++labelsAsked;
+        return next(labels);
+    }
+    std::optional<std::filesystem::path> chooseSaveFile(const std::string&,
+                                                        const std::string& suggestedName) override {
+        suggestedNames.push_back(suggestedName);
+        return next(files);
+    }
+
+    std::deque<std::optional<std::string>> labels; // nothing: cancelled
+    std::deque<std::optional<std::filesystem::path>> files;
+    int labelsAsked = 0;
+    std::vector<std::string> suggestedNames;
+
+private:
+    template <class T> static std::optional<T> next(std::deque<std::optional<T>>& script) {
+        if (script.empty()) {
+            return std::nullopt;
+        }
+        auto answer = script.front();
+        script.pop_front();
+        return answer;
+    }
+};
+
+class RecordingReportOutput final : public ReportOutput {
+public:
+    std::optional<std::string> writePdf(std::span<const StoneRecord> records,
+                                        const std::filesystem::path& file) override {
+        written.emplace_back(labels(records), file);
+        return error;
+    }
+    std::optional<std::string> print(std::span<const StoneRecord> records) override {
+        printed.push_back(labels(records));
+        return error;
+    }
+
+    std::optional<std::string> error;
+    std::vector<std::pair<std::vector<std::string>, std::filesystem::path>> written;
+    std::vector<std::vector<std::string>> printed;
+
+private:
+    static std::vector<std::string> labels(std::span<const StoneRecord> records) {
+        std::vector<std::string> texts;
+        for (const StoneRecord& r : records) {
+            texts.push_back(r.label);
+        }
+        return texts;
+    }
+};
+
+} // namespace velmora::test

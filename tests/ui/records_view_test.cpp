@@ -1,0 +1,266 @@
+#include "tests/support/answering_alert_presenter.h"
+#include "tests/support/fake_records_services.h"
+#include "tests/support/memory_store.h"
+#include "tests/support/reference_rows.h"
+#include "tests/support/temp_dir.h"
+#include "tests/support/window_harness.h"
+#include "ui/records_view.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace velmora::test {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// The view over a window of its own, a store in memory and scripted dialogs; each saved record
+// is measured as holding the label and two candidates.
+struct RecordsBench {
+    RecordsBench() {
+        store.loadPersistentStores();
+        view.setServices({[this] { return store.records(); }, &dialogs, &report});
+        view.reload();
+    }
+    void save(const std::string& label) {
+        dialogs.labels.push_back(label);
+        view.saveRecord();
+    }
+    Texts column(int column) {
+        Texts texts;
+        for (int row = 0; row < window.tbl_records.numberOfRows(); ++row) {
+            texts.push_back(cellText(window.tbl_records, column, row).value_or("?"));
+        }
+        return texts;
+    }
+    Texts labels() { return column(0); }
+    void filter(const std::string& text) {
+        window.txt_recordsFilter.setText(text);
+        view.controlTextDidChange(&window.txt_recordsFilter);
+    }
+    Texts alertMessages() const {
+        Texts texts;
+        for (const auto& a : alerts.alerts) {
+            texts.push_back(a.message);
+        }
+        return texts;
+    }
+
+    MainWindow window;
+    AnsweringAlertPresenter alerts;
+    MemoryStore store;
+    ScriptedRecordsDialogs dialogs;
+    RecordingReportOutput report;
+    RecordsView view{window, alerts,
+                     [](std::string label) {
+                         StoneRecord r;
+                         r.label = std::move(label);
+                         r.candidates = {{"2", "Quartz", 100}, {"185", "Iolite", 61}};
+                         return r;
+                     },
+                     ","};
+};
+
+TEST(RecordsView, ListsNewestFirstAndFiltersByLabelOrConclusionWithoutCaseOrAccents) {
+    RecordsBench b;
+    for (const char* label : {"Lot 7", "Müller ring", "lot 12"}) {
+        b.save(label);
+    }
+    EXPECT_EQ(b.labels(), (Texts{"lot 12", "Müller ring", "Lot 7"}));
+    EXPECT_TRUE(b.store.hasChanges());
+
+    b.view.chooseRecord(2);
+    b.window.txt_recordConclusion.setText("Amethyst");
+    b.view.updateRecord();
+
+    const struct {
+        const char* filter;
+        Texts labels;
+    } cases[] = {
+        {"", {"lot 12", "Müller ring", "Lot 7"}},
+        {"LOT", {"lot 12", "Lot 7"}},
+        {"muller", {"Müller ring"}},
+        {"amethyst", {"Lot 7"}},
+        {"nothing like it", {}},
+    };
+    for (const auto& c : cases) {
+        b.filter(c.filter);
+        EXPECT_EQ(b.labels(), c.labels) << c.filter;
+    }
+    // The list's outputs follow what is listed.
+    EXPECT_FALSE(b.window.btn_exportRecords.isEnabled());
+}
+
+TEST(RecordsView, ShowsTheChosenRecordAndEditsItsNotesAndConclusion) {
+    RecordsBench b;
+    b.save("Lot 7");
+    b.save("Lot 8");
+    EXPECT_EQ(b.view.chosen()->label, "Lot 8") << "a saved record is chosen";
+    b.view.chooseRecord(1);
+    EXPECT_EQ(b.window.txt_recordDetail.text().substr(0, 6), "Lot 7\n");
+    EXPECT_EQ(b.window.btn_recordConclusion.itemTitles(),
+              (Texts{RecordsView::pickCandidate, "Quartz", "Iolite"}));
+
+    b.window.btn_recordConclusion.pickItem(2);
+    EXPECT_EQ(b.window.txt_recordConclusion.text(), "Iolite");
+    b.window.txt_recordNotes.setText("silk, \"fingerprint\"");
+    b.view.updateRecord();
+    EXPECT_EQ(b.store.recordsKept.kept[1].conclusion, "Iolite");
+    EXPECT_EQ(b.store.recordsKept.kept[1].notes, "silk, \"fingerprint\"");
+    EXPECT_EQ(b.column(2), (Texts{"", "Iolite"}));
+    EXPECT_NE(b.window.txt_recordDetail.text().find("Conclusion: Iolite"), std::string::npos);
+
+    // Free words as the conclusion.
+    b.window.txt_recordConclusion.setText("Cordierite, heated?");
+    b.view.updateRecord();
+    EXPECT_EQ(b.store.recordsKept.kept[1].conclusion, "Cordierite, heated?");
+}
+
+TEST(RecordsView, DeletesOnlyOnceConfirmed) {
+    const struct {
+        std::size_t answer;
+        Texts left;
+    } cases[] = {{0, {"Lot 8"}}, {1, {"Lot 8", "Lot 7"}}};
+    for (const auto& c : cases) {
+        RecordsBench b;
+        b.save("Lot 7");
+        b.save("Lot 8");
+        b.view.chooseRecord(1);
+        b.alerts.answers = {c.answer};
+        b.view.deleteRecord();
+        EXPECT_EQ(b.alertMessages(), (Texts{"Delete the record \"Lot 7\"?"}));
+        EXPECT_EQ(b.alerts.alerts[0].buttons, (Texts{"Delete", "Cancel"}));
+        EXPECT_EQ(b.labels(), c.left) << c.answer;
+    }
+}
+
+TEST(RecordsView, AStoreThatRefusesAChangeSaysSoAndLosesNothing) {
+    const MemoryRecordsSetup refusing{.addError = "cannot change Velmora.sqlite: disk full",
+                                      .updateError = "cannot change Velmora.sqlite: disk full",
+                                      .removeError = "cannot change Velmora.sqlite: disk full"};
+    RecordsBench b;
+    b.save("Lot 7");
+    b.view.chooseRecord(0);
+    b.store.recordsKept.fail = refusing;
+
+    b.save("Lot 8");
+    b.window.txt_recordNotes.setText("typed, not yet kept");
+    b.view.updateRecord();
+    b.view.deleteRecord();
+
+    EXPECT_EQ(b.alertMessages(),
+              (Texts{"The record could not be saved", "The changes to the record could not be kept",
+                     "Delete the record \"Lot 7\"?", "The record could not be deleted"}));
+    for (const std::size_t i : {0, 1, 3}) {
+        EXPECT_EQ(b.alerts.alerts[i].informative, "cannot change Velmora.sqlite: disk full");
+    }
+    EXPECT_EQ(b.labels(), (Texts{"Lot 7"}));
+    EXPECT_EQ(b.window.txt_recordNotes.text(), "typed, not yet kept");
+    EXPECT_EQ(b.store.recordsKept.kept.size(), 1u);
+}
+
+TEST(RecordsView, WithoutAStoreOrALabelNothingIsSaved) {
+    RecordsBench b;
+    MemoryStore closed({.opens = false});
+    b.view.setServices({[&closed] { return closed.records(); }, &b.dialogs, &b.report});
+    b.dialogs.labels.push_back("Lot 7");
+    b.view.saveRecord();
+    EXPECT_EQ(b.alertMessages(), (Texts{"The records are not available"}));
+    EXPECT_EQ(b.dialogs.labelsAsked, 0);
+
+    const struct {
+        std::optional<std::string> label;
+        Texts alerts;
+    } cases[] = {{std::nullopt, {}}, {"", {"The record needs a label"}}};
+    for (const auto& c : cases) {
+        RecordsBench unsaved;
+        unsaved.dialogs.labels.push_back(c.label);
+        unsaved.view.saveRecord();
+        EXPECT_TRUE(unsaved.labels().empty());
+        EXPECT_FALSE(unsaved.store.hasChanges());
+        EXPECT_EQ(unsaved.alertMessages(), c.alerts);
+    }
+}
+
+TEST(RecordsView, ExportsTheListedRecordsAndReportsTheChosenOneOrAllListed) {
+    TempDir dir;
+    RecordsBench b;
+    b.save("Lot 7, \"blue\"");
+    b.save("Lot 8");
+    EXPECT_EQ(b.view.chosen()->label, "Lot 8");
+    b.filter("7");
+    b.filter("");
+    EXPECT_EQ(b.view.chosen(), nullptr);
+    b.filter("7");
+    b.dialogs.files = {dir.path() / "out.csv"};
+    b.view.exportCsv();
+    std::ifstream in(dir.path() / "out.csv", std::ios::binary);
+    std::stringstream csv;
+    csv << in.rdbuf();
+    EXPECT_NE(csv.str().find("\"Lot 7, \"\"blue\"\"\""), std::string::npos) << csv.str();
+    EXPECT_EQ(csv.str().find("Lot 8"), std::string::npos);
+
+    b.dialogs.files = {dir.path() / "all.pdf", dir.path() / "one.pdf"};
+    b.filter("");
+    b.view.writeReport(); // the filter let go of Lot 8, chosen as it was saved
+    b.view.chooseRecord(1);
+    b.view.writeReport();
+    b.view.printReport();
+    ASSERT_EQ(b.report.written.size(), 2u);
+    EXPECT_EQ(b.report.written[0].first, (Texts{"Lot 8", "Lot 7, \"blue\""}));
+    EXPECT_EQ(b.report.written[1].first, (Texts{"Lot 7, \"blue\""}));
+    EXPECT_EQ(b.dialogs.suggestedNames,
+              (Texts{"records.csv", "records.pdf", "Lot 7, \"blue\".pdf"}));
+    EXPECT_EQ(b.report.printed, (std::vector<Texts>{{"Lot 7, \"blue\""}}));
+
+    b.report.error = "cannot write one.pdf";
+    b.dialogs.files = {dir.path() / "x.pdf"};
+    b.view.writeReport();
+    b.dialogs.files = {dir.path() / "missing" / "x.csv"};
+    b.view.exportCsv();
+    EXPECT_EQ(b.alertMessages(),
+              (Texts{"The report could not be written", "The records could not be exported"}));
+}
+
+// Through the window: the record holds what the form and the Best matches list show.
+TEST(RecordsView, SavesTheMeasurementAsTheWindowHoldsIt) {
+    WindowHarness h({.rows = std::vector<std::string>{row({{0, "50"},
+                                                           {1, "Ruby"},
+                                                           {5, "3.97-4.05"},
+                                                           {6, "1.762-1.770"},
+                                                           {14, "0.008"},
+                                                           {15, "Corundum"},
+                                                           {22, "Red"}}),
+                                                      row({{0, "1"},
+                                                           {1, "Rock crystal"},
+                                                           {5, "2.64-2.66"},
+                                                           {6, "1.544-1.553"},
+                                                           {14, "0.009"},
+                                                           {15, "Quartz"},
+                                                           {22, "Violet"}})}});
+    MemoryStore store;
+    store.loadPersistentStores();
+    ScriptedRecordsDialogs dialogs;
+    RecordingReportOutput report;
+    h.controller.setRecordsServices({[&store] { return store.records(); }, &dialogs, &report});
+    h.click(h.window.bvtn_dictionary);
+    h.click(h.window.check_RI);
+    h.type(h.window.txt_leftRIReading, "1.762");
+    h.type(h.window.txt_leftRIHigh, "1.770");
+    dialogs.labels.push_back("Client 31");
+    h.click(h.window.btn_saveRecord);
+
+    ASSERT_EQ(store.recordsKept.kept.size(), 1u);
+    const StoneRecord& r = store.recordsKept.kept[0];
+    EXPECT_EQ(r.label, "Client 31");
+    EXPECT_EQ(r.ri.values, (std::vector<double>{1.762, 1.77}));
+    ASSERT_FALSE(r.candidates.empty());
+    EXPECT_EQ(r.candidates[0].name, "Ruby");
+    EXPECT_EQ(r.candidates[0].number, "50");
+    EXPECT_EQ(cellText(h.window.tbl_records, 0, 0), "Client 31");
+    EXPECT_TRUE(store.hasChanges());
+}
+
+} // namespace
+} // namespace velmora::test

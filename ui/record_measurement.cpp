@@ -1,0 +1,33 @@
+#include "records/record_from_measurement.h"
+#include "ui/view_controller.h"
+
+#include <chrono>
+
+namespace velmora {
+
+StoneRecord ViewController::recordOfMeasurement(std::string label) const {
+    const MeasurementEntries entries{.ri = isRIState,
+                                     .sg = isSGState,
+                                     .hardness = isHardnessState,
+                                     .color = isColorState,
+                                     .riText = txt_leftRIReading.text(),
+                                     .riHighText = txt_leftRIHigh.text(),
+                                     .sgText = txt_leftSG.text(),
+                                     .weightAirText = txt_weightAir.text(),
+                                     .weightWaterText = txt_weightWater.text(),
+                                     .hardnessText = txt_leftHardness.text(),
+                                     .colorName = selectedColor};
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    return recordFromMeasurement(std::move(label), now, capture_.series(), entries,
+                                 decimalSeparators(), bestMatches_.rows());
+}
+
+void ViewController::setRecordsServices(RecordsServices services) {
+    records_.setServices(std::move(services));
+}
+
+void ViewController::showRecords() {
+    records_.reload();
+}
+
+} // namespace velmora
