@@ -1,6 +1,6 @@
-#include "tests/support/answering_alert_presenter.h"
 #include "tests/support/fake_records_services.h"
 #include "tests/support/memory_store.h"
+#include "tests/support/recording_alert_presenter.h"
 #include "tests/support/reference_rows.h"
 #include "tests/support/temp_dir.h"
 #include "tests/support/window_harness.h"
@@ -48,7 +48,7 @@ struct RecordsBench {
     }
 
     MainWindow window;
-    AnsweringAlertPresenter alerts;
+    RecordingAlertPresenter alerts;
     MemoryStore store;
     ScriptedRecordsDialogs dialogs;
     RecordingReportOutput report;
