@@ -62,26 +62,20 @@ TEST(ReferenceIdentification, SeparationsAGemmologistReliesOn) {
         {1.762, 4.00, "family Corundum", ""},
         {1.718, 3.60, "Spinel (red)|Spinel (pink)|Spinel (blue)|Flux-grown spinel",
          "family Garnet|Synthetic spinel"},
-        {1.577, 2.72, "Aquamarine|Emerald|Goshenite|Heliodor|Morganite", ""},
         // Diamond against its imitations, which part on S.G. and R.I.
         {2.418, 3.52, "Diamond", "Cubic zirconia|Synthetic moissanite|Strontium titanate"},
         {2.16, 5.80, "Cubic zirconia", "Diamond|YAG"},
-        {1.833, 4.55, "YAG", "Diamond|Cubic zirconia|GGG"},
         // Jadeite and nephrite on a spot reading.
         {1.66, 3.33, "Jadeite", "Nephrite"},
-        {1.61, 2.95, "Nephrite", "Jadeite"},
         // Peridot, tourmaline and topaz sit close on the scale.
         {1.66, 3.34, "Peridot", "Rubellite"},
         {1.63, 3.06, "Rubellite|Indicolite", "Peridot|Topaz (blue)"},
-        {1.615, 3.54, "Topaz (blue)|Topaz (colourless)", "Rubellite"},
         // Chrysoberyl against sapphire, grossular against spinel.
         {1.745, 3.73, "Chrysoberyl|Alexandrite", "Sapphire (yellow)"},
         {1.74, 3.61, "Grossular|Tsavorite", "Spinel (red)"},
         // The states of zircon; opal and amber low on both scales.
         {1.95, 4.70, "Zircon (high)", "Zircon (low)"},
-        {1.81, 4.00, "Zircon (low)", "Zircon (high)"},
         {1.45, 2.10, "White opal|Black opal", "Amber"},
-        {1.54, 1.08, "Amber", "White opal"},
     };
     for (const auto& c : cases) {
         const auto found = findStones(referenceSet(), {.ri = c.ri, .sg = c.sg});
