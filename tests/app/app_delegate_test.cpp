@@ -128,14 +128,5 @@ TEST_F(AppDelegateTest, AFailedSaveAtQuitShowsTheErrorThenAsksInTheUsersLanguage
     EXPECT_EQ(delegate(failing).applicationShouldTerminate(), TerminateReply::Now);
 }
 
-TEST_F(AppDelegateTest, TerminationStopsTheInstrumentSession) {
-    AppDelegate& d = delegate();
-    connector.connectDataToDevice();
-    ASSERT_EQ(runLoop.activeTimers(), 1u);
-    d.applicationWillTerminate();
-    EXPECT_EQ(runLoop.activeTimers(), 0u);
-    EXPECT_EQ(bus.calls().back(), "unschedule");
-}
-
 } // namespace
 } // namespace velmora::test

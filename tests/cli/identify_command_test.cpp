@@ -1,4 +1,3 @@
-#include "data/color_catalogue.h"
 #include "tests/cli/cli_runner.h"
 #include "tests/support/window_harness.h"
 
@@ -50,10 +49,8 @@ TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
         {{"--ri", "1,544", "--decimal-separator", "."}, "", "Please use '.' as decimals!\n"},
         {{"--hardness", "10"}, "", "Result: Not Found in Record\n"},
         // An empty value ticks the box and types nothing: the search's own check speaks.
-        {{"--name", ""}, "", "Please enter name of stone!\n"},
         {{"--sg", ""}, "", "Please enter S.G. value!\n"},
         {{"--ri", ""}, "", "Please enter R.I. value!\n"},
-        {{"--hardness", "", "--ri", "1.55"}, "", "Please enter Hardness value!\n"},
     };
     for (const auto& [args, out, err] : cases) {
         const auto r = identify(file, args);
@@ -61,24 +58,6 @@ TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
         EXPECT_EQ(r.out, out);
         EXPECT_EQ(r.err, err);
     }
-}
-
-TEST(IdentifyCommand, AnUnknownColourIsAUsageErrorNamingTheTwelve) {
-    ReferenceFile file(reference);
-    const auto r = identify(file, {"--color", "Gray"});
-    EXPECT_EQ(r.status, 2);
-    for (const auto& colour : colorCatalogue()) {
-        EXPECT_NE(r.err.find(colour.name), std::string::npos) << colour.name;
-    }
-}
-
-TEST(IdentifyCommand, AnUnreadableReferenceIsToldAndFindsNothing) {
-    TempDir dir;
-    const auto r = runCli({"identify", "--reference", (dir.path() / "none.csv").string()});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_NE(r.err.find("none.csv"), std::string::npos);
-    EXPECT_NE(r.err.find("Result: Not Found in Record\n"), std::string::npos);
-    EXPECT_EQ(r.out, "");
 }
 
 } // namespace

@@ -57,11 +57,8 @@ TEST(RecordsCommand, RefusesWhatTheWindowWouldAndKeepsNothing) {
     } cases[] = {
         {{"add", "--ri", "1.544"}, 2, "--label"},
         {{"add", "--label", "x", "--ri", ""}, 1, "Please enter R.I. value!"},
-        {{"add", "--label", "x", "--ri", "1,5"}, 2, "is not a number"},
-        {{"add", "--label", "x", "--ri-high", "1.6"}, 2, "--ri"},
         {{"add", "--label", "x", "--color", "plaid"}, 2, "plaid"},
         {{"show", "7"}, 1, "no record 7"},
-        {{"show", "seven"}, 2, "ID"},
         {{"export"}, 2, "--csv"},
     };
     for (const auto& c : cases) {
@@ -71,14 +68,6 @@ TEST(RecordsCommand, RefusesWhatTheWindowWouldAndKeepsNothing) {
         EXPECT_THAT(r.err, HasSubstr(c.says)) << testing::PrintToString(c.args);
         EXPECT_EQ(store.run({"list"}).out, "");
     }
-}
-
-TEST(RecordsCommand, AStoreThatCannotBeOpenedIsAnAlert) {
-    const Store store;
-    const auto blocker = store.dir.write("file", "");
-    const auto r = runCli({"records", "--store", (blocker / "Velmora.sqlite").string(), "list"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_THAT(r.err, HasSubstr("cannot create the folder"));
 }
 
 TEST(RecordsCommand, TheDefaultStoreIsWhereTheWindowKeepsIt) {

@@ -32,12 +32,8 @@ TEST(StonesCommand, WritesOutTheControlCharactersOfNames) {
 // Each of these is answered at once, with the reason on standard error and nothing listed.
 TEST(StonesCommand, AFileThatIsNoTableIsToldAndFails) {
     TempDir dir;
-    const auto sparse = dir.write("huge.csv", "");
-    std::filesystem::resize_file(sparse, std::uintmax_t{8} << 30);
     // Every kind of refused file is the file reader's concern; these are the table's.
     const std::pair<std::string, std::string> files[] = {
-        {"/dev/zero", "a device, a pipe or a socket"},
-        {sparse.string(), "larger than 64 MiB"},
         {dir.write("nul.csv", std::string(1 << 20, '\0')).string(), "holds no stone"},
         {(dir.path() / "nope.csv").string(), "nope.csv"},
     };

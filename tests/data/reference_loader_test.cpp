@@ -73,7 +73,6 @@ TEST(LoadReferenceSet, RefusesWhatIsNoTableOfAReasonableSize) {
         manyStones += ",,,,,,,,,,,,,,,,1,,,,,,,,,,,\n";
     }
     const std::pair<std::filesystem::path, std::string> refused[] = {
-        {"/dev/zero", "a device, a pipe or a socket"},
         {sparse, "larger than 64 MiB, the most a reference table may hold"},
         {dir.write("many.csv", manyStones), "more than 200000 stones"},
     };
@@ -89,9 +88,7 @@ TEST(LoadReferenceSet, SaysWhenAFileThatIsNoTableHoldsNoStone) {
     test::TempDir dir;
     const std::pair<std::string, bool> files[] = {
         {std::string(1 << 20, '\0'), true},
-        {std::string(100000, 'x'), true},
         {std::string(referenceHeader) + "\nRuby;1.76;4.00\n", true}, // cut at semicolons
-        {"", true},
         // A table with nothing in it, or nothing marked for inclusion, is still a table.
         {std::string(referenceHeader) + "\r\n", false},
         {std::string(referenceHeader) + "\n" + test::row({{1, "Ruby"}, {16, "0"}}) + "\n", false},
@@ -104,15 +101,6 @@ TEST(LoadReferenceSet, SaysWhenAFileThatIsNoTableHoldsNoStone) {
         EXPECT_EQ(load.holdsNoStone.empty(), !noStone) << bytes.substr(0, 40);
         EXPECT_EQ(lists.out.str(), "");
     }
-}
-
-// The message quotes the path as given, its control characters written out.
-TEST(LoadReferenceSet, QuotesAPathWithItsControlCharactersWrittenOut) {
-    test::TempDir dir;
-    Lists lists;
-    EXPECT_FALSE(lists.load(dir.path() / "\x1B[2J.csv"));
-    EXPECT_NE(lists.out.str().find("\\x1B[2J.csv\""), std::string::npos) << lists.out.str();
-    EXPECT_EQ(lists.out.str().find('\x1B'), std::string::npos);
 }
 
 } // namespace

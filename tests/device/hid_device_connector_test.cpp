@@ -103,12 +103,6 @@ TEST_F(HIDDeviceConnectorTest, ConnectAgainSendsOneStartReportAndPostsNothing) {
     EXPECT_THAT(names(), ElementsAre(HIDDeviceConnected::name));
 }
 
-TEST_F(HIDDeviceConnectorTest, DisconnectBeforeAnyConnectPostsNothing) {
-    connector.disconnectDataToDevice();
-    EXPECT_THAT(posted, IsEmpty());
-    EXPECT_THAT(log.infoLines, ElementsAre("[INFO] terminated >> "));
-}
-
 // Disconnect and unplugging end the session alike.
 class SessionEndTest : public HIDDeviceConnectorTest, public ::testing::WithParamInterface<bool> {};
 
@@ -154,25 +148,6 @@ TEST_F(HIDDeviceConnectorTest, EveryInputReportIsPostedAsItsReadingText) {
          {std::pair{1, "1.540"}, {2, "1.540"}, {3, "1.005"}, {4, "0.999"}}) {
         EXPECT_EQ(std::get<HIDDeviceDataReceived>(posted[i].notification).data, text) << i;
     }
-}
-
-TEST(HIDDeviceConnectorShared, IsTheConnectorItsOwnerMadeSharedForAsLongAsThatLives) {
-    ManualRunLoop loop;
-    RecordingLog log;
-    FakeHidBus bus;
-    auto& center = NotificationCenter::defaultCenter();
-    int connected = 0;
-    const auto token =
-        center.addObserver<HIDDeviceConnected>([&](const HIDDeviceConnected&) { ++connected; });
-    for (int life = 0; life < 2; ++life) { // a second owner may share its own after the first
-        HIDDeviceConnector connector(bus.managerFactory(), loop, center, log);
-        connector.becomeSharedInstance();
-        EXPECT_EQ(&HIDDeviceConnector::sharedInstance(), &connector);
-        HIDDeviceConnector::sharedInstance().connectDataToDevice();
-        HIDDeviceConnector::sharedInstance().disconnectDataToDevice();
-    }
-    center.removeObserver(token);
-    EXPECT_EQ(connected, 2);
 }
 
 } // namespace

@@ -103,28 +103,6 @@ TEST_F(SteadinessTest, ALiftEndsTheStoneAndTheSameStonePutBackIsReadAgain) {
     EXPECT_EQ(steadiness.state(), State::noStone);
 }
 
-TEST_F(SteadinessTest, TheWindowAndTheBandAreSettings) {
-    struct Case {
-        SteadinessSettings settings;
-        std::vector<std::chrono::milliseconds> times;
-    };
-    const Thousandths wobbly =
-        Thousandths{1500} + hold(1544, 5) + Thousandths{1546, 1542, 1544, 1545} + hold(1546, 5);
-    for (const auto& c : {Case{{}, {}}, Case{{.window = 500ms, .band = 0.002}, {600ms}},
-                          Case{{.window = 2s, .band = 0.002}, {}}}) {
-        Steadiness s(c.settings);
-        watch(s);
-        readings.clear();
-        ReadingStream fromZero;
-        fromZero.play(s, wobbly);
-        std::vector<std::chrono::milliseconds> times;
-        for (const auto& r : readings) {
-            times.push_back(r.time);
-        }
-        EXPECT_EQ(times, c.times) << c.settings.window.count();
-    }
-}
-
 TEST_F(SteadinessTest, AReadingOlderThanTheLastIsIgnored) {
     stream.play(steadiness, settleOn(1544));
     steadiness.add(stream.now - 1s, 0);

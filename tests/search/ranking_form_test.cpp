@@ -90,6 +90,7 @@ TEST(Weighing, GivesTheSgWithTheDecimalsTheWeightsAllowOrSaysWhatIsWrong) {
         {"4.000", "3.000", "4.00", ""}, // each weight +-0.0005: the S.G. +-0.0035
         {"2.00", "1.50", "4", ""},      // a small loss in water: not even one decimal holds
         {"1.3x", "1", std::nullopt, "Weight in air \"1.3x\" is not a number."},
+        {"0", "1", std::nullopt, "The weight in air must be above zero."},
         {"2", "3", std::nullopt,
          "The weight in water must be below the weight in air: water buoys the stone up."},
         {"2", "0", std::nullopt,

@@ -251,21 +251,7 @@ TEST(Hydrostatic, SpecificGravityIsAirOverLossWithItsPrecisionOrTheProblem) {
     // A fifth of the weight, five times the loss error: small stones weigh poorly.
     EXPECT_NEAR(specificGravityFromWeights(m(0.200, 0.0005), m(0.143, 0.0005)).sg->precision, 0.053,
                 0.001);
-    const struct {
-        double air;
-        double water;
-        const char* problem;
-    } impossible[] = {
-        {0, 0, "The weight in air must be above zero."},
-        {-1, -2, "The weight in air must be above zero."},
-        // The rest of the texts come through the form's reading of the weights.
-        {1, 1, "The weight in water must be below the weight in air: water buoys the stone up."},
-    };
-    for (const auto& c : impossible) {
-        const auto r = specificGravityFromWeights(m(c.air), m(c.water));
-        EXPECT_FALSE(r.sg);
-        EXPECT_EQ(r.problem, c.problem);
-    }
+    // What is wrong with the weights is checked through the form's reading of them.
 }
 
 } // namespace

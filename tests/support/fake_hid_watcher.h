@@ -1,10 +1,9 @@
 #pragma once
 
 // Scripted HID devices for the HID watchers. The test plugs and unplugs devices and has them send
-// input reports; every output report a device is sent is recorded. run() first reports the
-// matching devices already plugged in, then plays the test's later() steps in order, then waits
-// for stop(); from the start of run() on, plugging, unplugging and sending are delivered at once.
-// A test that calls stop() first has the whole script played on its own thread.
+// input reports. run() first reports the matching devices already plugged in, then plays the
+// test's later() steps in order, then waits for stop(); from the start of run() on, plugging,
+// unplugging and sending are delivered at once.
 
 #include "device/hid_watcher.h"
 
@@ -12,7 +11,6 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -63,7 +61,7 @@ public:
     }
 
     void plug(const FakeHidDeviceDescription& description) {
-        plugged_.push_back(std::make_shared<Device>(description, sent_[description.path]));
+        plugged_.push_back(std::make_shared<Device>(description));
         if (reported(*plugged_.back())) {
             attached_(plugged_.back());
         }
@@ -89,22 +87,16 @@ public:
     }
     void later(std::function<void()> step) { steps_.push_back(std::move(step)); }
 
-    // Each output report the device was sent: the report identifier, then the rest.
-    std::vector<Bytes> sentTo(const std::string& path) { return sent_[path]; }
-
 private:
     struct Device final : WatchedHidDevice {
-        Device(FakeHidDeviceDescription description, std::vector<Bytes>& sent)
-            : description(std::move(description)), sent(sent) {}
+        explicit Device(FakeHidDeviceDescription description)
+            : description(std::move(description)) {}
 
         void registerInputReportCallback(InputReportCallback callback) override {
             input = std::move(callback);
         }
         std::optional<std::string> productProperty() const override { return description.product; }
-        void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
-            sent.push_back(Bytes{reportId});
-            sent.back().insert(sent.back().end(), report.begin(), report.end());
-        }
+        void setOutputReport(std::uint8_t, std::span<const std::uint8_t>) override {}
         HidProperty property(const std::string& key) const override {
             const auto& d = description;
             if (key == "LocationID") {
@@ -124,7 +116,6 @@ private:
         }
 
         const FakeHidDeviceDescription description;
-        std::vector<Bytes>& sent;
         InputReportCallback input;
     };
 
@@ -139,7 +130,6 @@ private:
     DeviceCallback attached_;
     DeviceCallback removed_;
     std::vector<std::shared_ptr<Device>> plugged_; // in plugging order
-    std::map<std::string, std::vector<Bytes>> sent_;
     bool running_ = false;
     std::vector<std::function<void()>> steps_;
     std::atomic<bool> stopped_{false};

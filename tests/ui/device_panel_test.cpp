@@ -71,23 +71,6 @@ TEST(DevicePanel, ReadingsShowInTheUsersNotationWhateverTheState) {
     EXPECT_EQ(h.window.usb_device_reading.text(), ""); // the monitor's raw bytes: ignored
 }
 
-TEST(DevicePanel, ConnectAndDisconnectResetTheFormOnlyInTheReadingTab) {
-    WindowHarness h;
-    h.click(h.window.btn_connected);
-    EXPECT_EQ(h.instrument.connects, 1);
-    // Nothing was found, so Disconnect is still disabled in the window; its action as such:
-    h.window.btn_connected.setEnabled(false);
-    h.controller.btn_disConnect_tap(h.window.btn_disconnected);
-    EXPECT_EQ(h.instrument.disconnects, 1);
-    EXPECT_TRUE(h.window.btn_connected.isEnabled());
-
-    h.click(h.window.bvtn_dictionary);
-    h.click(h.window.check_Name);
-    h.type(h.window.txt_left_name, "ruby");
-    h.click(h.window.btn_connected);
-    EXPECT_EQ(h.window.txt_left_name.text(), "ruby"); // the dictionary keeps its form
-}
-
 TEST(DevicePanel, TheResetAfterConnectComesAfterTheConnectedState) {
     FakeHidBus bus;
     WindowHarness h({.instrumentManagers = bus.managerFactory()});
@@ -103,37 +86,6 @@ TEST(DevicePanel, TheResetAfterConnectComesAfterTheConnectedState) {
     ASSERT_FALSE(order.empty());
     EXPECT_EQ(order.front(), "Connected");
     EXPECT_EQ(order.back(), "reset");
-}
-
-// The whole road on the simulated instrument: Connect, readings arriving, Enter taking the shown
-// reading into the R.I. entry, the stones whose range holds it listed, and Disconnect.
-TEST(LiveReading, ConnectReadEnterListsTheStonesThatHoldTheReading) {
-    WindowHarness h(
-        {.rows = std::vector<std::string>{stoneRow("1", "Amethyst", "1.544-1.553"),
-                                          stoneRow("2", "Aquamarine", "1.567-1.590"),
-                                          stoneRow("3", "Citrine", "1.544 - 1.553"),
-                                          stoneRow("4", "Iolite", "1.522-1.578")},
-         .instrumentManagers = sim::simulatedInstrumentFactory(
-             std::make_shared<sim::ReplayedReadings>(std::vector<std::uint16_t>{1530, 1551}))});
-    h.click(h.window.btn_connected);
-    EXPECT_EQ(h.window.lbl_deviceStatus.text(), "Connected");
-    h.runLoop.advance(100ms);
-    EXPECT_EQ(h.window.usb_device_reading.text(), "1.530");
-    h.runLoop.advance(100ms);
-    EXPECT_EQ(h.window.usb_device_reading.text(), "1.551");
-
-    h.click(h.window.btn_enter);
-    EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.551");
-    EXPECT_EQ(h.tableRows(), (std::vector<std::pair<std::string, std::string>>{
-                                 {"1", "Amethyst"}, {"3", "Citrine"}, {"4", "Iolite"}}));
-    EXPECT_EQ(h.window.txt_RI.text(), "1.544-1.553"); // the first stone's detail
-    EXPECT_TRUE(h.alerts().empty());
-
-    h.click(h.window.btn_disconnected);
-    EXPECT_EQ(h.window.usb_device_reading.text(), "1.000");
-    h.runLoop.advance(10s);
-    EXPECT_EQ(h.window.usb_device_reading.text(), "1.000");
-    EXPECT_EQ(h.runLoop.activeTimers(), 0u);
 }
 
 } // namespace

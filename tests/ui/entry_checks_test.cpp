@@ -78,16 +78,5 @@ TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
     EXPECT_EQ(h.window.firstResponder(), nullptr);
 }
 
-TEST(EntryChecks, TypingFollowsTheLocaleButTheEndOfEditingKeepsTheSeparatorTheWindowStartedWith) {
-    Entries h;
-    h.locale.setDecimalSeparator(",");
-    h.type(h.window.txt_leftSG, "2,6");
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    h.type(h.window.txt_leftRIReading, "1.5");
-    EXPECT_EQ(h.alerts().back(), "Please use '.' as decimals!");
-}
-
 } // namespace
 } // namespace velmora::test

@@ -96,7 +96,7 @@ TEST(Search, NothingFoundShowsTheEmptyListBeforeTheAlert) {
     EXPECT_EQ(h.window.txt_RI.text(), "");
 }
 
-TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptiedAndATagOutsideTheFiveDoesNothing) {
+TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptied) {
     WindowHarness h({.rows = reference});
     MainWindow& w = h.window;
     h.click(w.bvtn_dictionary);
@@ -108,14 +108,6 @@ TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptiedAndATagOutsideTheFiveDoesNothi
     EXPECT_EQ(w.txt_leftSG.text(), "");
     h.click(w.check_sg);
     EXPECT_EQ(w.txt_leftSG.text(), "");
-    h.click(w.check_sg);
-
-    for (int tag : {5, -1}) {
-        w.check_sg.setTag(tag);
-        h.click(w.check_sg);
-        EXPECT_FALSE(anyCriterionOn(h.state()));
-        EXPECT_FALSE(w.txt_leftSG.isEnabled());
-    }
 }
 
 TEST(Enter, TakesTheLiveReadingLocksRiOnAndSearchesWithTheOtherCriteria) {

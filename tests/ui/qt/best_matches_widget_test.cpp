@@ -27,10 +27,6 @@ TEST_F(BestMatchesWindow, ListTheCandidatesAfterASearchAndShowTheOneClicked) {
     EXPECT_EQ(table->model()->index(0, 0).data(), "100%");
     EXPECT_EQ(table->model()->index(0, 1).data(), "Ruby");
     EXPECT_EQ(table->model()->index(0, 2).data(), "Fits every reading");
-    // The fit figure is meant to be read from across the bench.
-    EXPECT_GE(table->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 24);
-    EXPECT_EQ(table->model()->index(0, 0).data(Qt::ForegroundRole).value<QColor>(),
-              QColor(30, 123, 52)); // green: it fits every reading
     EXPECT_THAT(alerts.alerts, IsEmpty());
 
     const QRect cell = table->visualRect(table->model()->index(0, 1));

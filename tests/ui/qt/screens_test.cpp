@@ -48,13 +48,5 @@ TEST_F(Screens, TheTutorialOpensTwiceAsTwoSeparateScreens) {
     EXPECT_THAT(alerts.alerts, IsEmpty());
 }
 
-TEST_F(Screens, WithoutTheDocumentTheTutorialScreenIsEmpty) {
-    open();
-    whileScreenOpen("btn_tutorial", [](QWidget& screen) {
-        EXPECT_EQ(screen.windowTitle(), "Tutorial.pdf");
-        EXPECT_EQ(screen.findChild<QPdfView*>()->document(), nullptr);
-    });
-}
-
 } // namespace
 } // namespace velmora::test

@@ -102,23 +102,6 @@ void ShellTest::pressKey(Qt::Key key) {
     settle();
 }
 
-void ShellTest::pick(const char* name, const QString& title) {
-    auto* popUp = widget<QComboBox>(name);
-    const int target = popUp->findText(title);
-    ASSERT_GE(target, 0) << title.toStdString();
-    while (popUp->currentIndex() != target) {
-        QTest::keyClick(popUp, popUp->currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
-    }
-    settle();
-}
-
-void ShellTest::clickRow(int row) {
-    auto* table = widget<QTableView>("tableView");
-    const QRect cell = table->visualRect(table->model()->index(row, 1));
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
-    settle();
-}
-
 void ShellTest::whileScreenOpen(const char* button, const std::function<void(QWidget&)>& look) {
     bool looked = false;
     QTimer::singleShot(0, [&] {
@@ -145,11 +128,6 @@ QStringList ShellTest::listedStones() {
         names << model->index(row, 1).data().toString();
     }
     return names;
-}
-
-int ShellTest::selectedRow() {
-    const QModelIndexList rows = widget<QTableView>("tableView")->selectionModel()->selectedRows();
-    return rows.size() == 1 ? rows.front().row() : -1;
 }
 
 QString ShellTest::text(const char* name) {

@@ -48,11 +48,9 @@ protected:
     }
 
     // Gestures
-    void click(const char* name);                       // a button or a check box
-    void type(const char* entry, const QString& text);  // click into it, then type
-    void pressKey(Qt::Key key);                         // on the widget that has the keyboard
-    void pick(const char* popUp, const QString& title); // with the arrow keys
-    void clickRow(int row);
+    void click(const char* name);                      // a button or a check box
+    void type(const char* entry, const QString& text); // click into it, then type
+    void pressKey(Qt::Key key);                        // on the widget that has the keyboard
     void settle();
     // Opens a modal screen with its navigation button, lets look at it while it is up, closes it.
     void whileScreenOpen(const char* button, const std::function<void(QWidget&)>& look);
@@ -60,8 +58,7 @@ protected:
     // What the user sees
     QColor colourAt(const char* name); // the middle of the widget, as painted
     QStringList listedStones();        // the table's name column, top to bottom
-    int selectedRow();
-    QString text(const char* name); // a label's, an entry's or a pop-up's
+    QString text(const char* name);    // a label's, an entry's or a pop-up's
     // The alerts' informative texts, or another of their texts, in the order shown.
     std::vector<std::string>
     alertTexts(std::string RecordedAlert::*text = &RecordedAlert::informative) const;

@@ -3,9 +3,6 @@
 #include "ui/qt/main_window_widget.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QTableView>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -15,40 +12,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Window = ShellTest;
-
-// The logic's state is checked over fakes; these check what only the widgets show: the painted
-// colours, the table model, real clicks and keys.
-TEST_F(Window, LaunchesInTheReadingTabPaintedAsDesigned) {
-    open();
-    EXPECT_EQ(window().windowTitle(), "Velmora v2.0.1-M-23");
-    EXPECT_EQ(colourAt("box"), QColor(18, 27, 50));
-    EXPECT_EQ(colourAt("view_leftPanel"), QColor(236, 236, 236));
-    EXPECT_EQ(colourAt("border_RiReading"), Qt::white);
-    EXPECT_FALSE(widget("border_dictionary")->isVisible());
-    EXPECT_EQ(widget("view_reading")->height(), 109);
-    EXPECT_FALSE(widget<QCheckBox>("check_sg")->isEnabled());
-    EXPECT_EQ(colourAt("view_deviceStatus"), red);
-    EXPECT_EQ(text("usb_device_reading"), "1.000");
-    EXPECT_TRUE(widget<QLineEdit>("txt_RI")->isReadOnly());
-}
-
-TEST_F(Window, TheDictionaryTabListsTheWholeTableAndShowsTheFirstStone) {
-    open();
-    click("bvtn_dictionary");
-    EXPECT_THAT(listedStones(),
-                ElementsAre("Citrine", "Iolite", "Rock crystal", "Ruby", "Scapolite"));
-    const QAbstractItemModel* model = widget<QTableView>("tableView")->model();
-    EXPECT_EQ(model->index(1, 0).data(), "185");
-    EXPECT_EQ(model->index(0, 0).data(Qt::SizeHintRole).toSize().height(), 21);
-    EXPECT_EQ(selectedRow(), 0);
-    EXPECT_EQ(text("btn_stonesList"), "Citrine");
-    EXPECT_EQ(text("txt_RI"), "1.544-1.553");
-    EXPECT_FALSE(widget("view_reading")->isVisible());
-
-    click("btn_RIReading");
-    EXPECT_THAT(listedStones(), IsEmpty());
-    EXPECT_EQ(widget("view_reading")->height(), 109);
-}
 
 TEST_F(Window, ASearchTypedAndClickedListsWhatFitsAndALockedEntryTakesNoTyping) {
     open();
@@ -63,27 +26,6 @@ TEST_F(Window, ASearchTypedAndClickedListsWhatFitsAndALockedEntryTakesNoTyping) 
     click("check_hardness");
     type("txt_leftHardness", "7");
     EXPECT_EQ(text("txt_leftHardness"), "");
-}
-
-TEST_F(Window, TheTableAndThePopUpFollowEachOther) {
-    open();
-    click("bvtn_dictionary");
-    clickRow(3);
-    EXPECT_EQ(text("btn_stonesList"), "Ruby");
-    EXPECT_EQ(text("txt_hardness"), "9-9");
-    pick("btn_stonesList", "Iolite");
-    EXPECT_EQ(selectedRow(), 1);
-    EXPECT_EQ(text("txt_RI"), "1.522-1.578");
-}
-
-TEST_F(Window, AnEntryEmptiedByItsAlertTakesTheTypingThatFollows) {
-    open();
-    click("bvtn_dictionary");
-    click("check_sg");
-    type("txt_leftSG", "2,");
-    EXPECT_THAT(alertTexts(), ElementsAre("Please use '.' as decimals!"));
-    type("txt_leftSG", "65");
-    EXPECT_EQ(text("txt_leftSG"), "65");
 }
 
 TEST_F(Window, LeavingAnEntryOrPressingReturnEndsItsEditingWithTheCheck) {
@@ -125,19 +67,6 @@ TEST_F(Window, ConnectLightsTheLampAndEnterListsTheStonesForTheReading) {
     click("btn_disconnected");
     EXPECT_EQ(colourAt("view_deviceStatus"), red);
     EXPECT_EQ(text("usb_device_reading"), "1.000");
-}
-
-TEST_F(Window, PickingAColourPaintsItsSwatch) {
-    open();
-    click("bvtn_dictionary");
-    click("check_color");
-    EXPECT_EQ(colourAt("view_color"), green);
-    pick("btn_color", "Yellow");
-    EXPECT_EQ(colourAt("view_color"), QColor(255, 255, 0));
-    click("btn_search");
-    EXPECT_THAT(listedStones(), ElementsAre("Citrine"));
-    click("check_color");
-    EXPECT_EQ(widget<QComboBox>("btn_color")->count(), 0);
 }
 
 // Each listed element is bound to the widget of its name in the interface file: hiding the element
