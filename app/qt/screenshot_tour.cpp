@@ -9,7 +9,6 @@
 #include "app/qt/qt_run_loop.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
-#include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 
 #include <QAbstractButton>
@@ -26,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 #include <iostream>
 
@@ -35,6 +35,42 @@ namespace {
 // Quartz on the prism, held steady.
 constexpr std::uint16_t shownReading = 1544;
 constexpr std::chrono::milliseconds patience{5000};
+
+// Quartz held still, until the tour lifts it and turns a tourmaline on the prism: five positions
+// between its two indices, each settling from above in a few readings and then held, wavering by
+// a thousandth, long enough to be captured.
+class TourReadings final : public sim::ReadingSource {
+public:
+    static constexpr std::array<std::uint16_t, 5> positions{1624, 1631, 1644, 1637, 1626};
+    static constexpr int readingsPerPosition = 18;
+    static constexpr int liftedReadings = 8;
+
+    std::uint16_t next() override {
+        if (!turning_) {
+            return shownReading;
+        }
+        const int reading = count_++;
+        if (reading < liftedReadings) {
+            return 0;
+        }
+        const int step = (reading - liftedReadings) % readingsPerPosition;
+        const auto position =
+            static_cast<std::size_t>((reading - liftedReadings) / readingsPerPosition) %
+            positions.size();
+        static constexpr std::array<int, readingsPerPosition> settle{9, 4, 2, 0, 1, 0,  0, -1, 0,
+                                                                     0, 1, 0, 0, 0, -1, 0, 1,  0};
+        return static_cast<std::uint16_t>(positions[position] + settle[step]);
+    }
+    // From the loop's thread, as next() is called.
+    void turnTourmaline() {
+        count_ = 0;
+        turning_ = true;
+    }
+
+private:
+    bool turning_ = false;
+    int count_ = 0;
+};
 
 class QuietLog final : public Log {
 public:
@@ -63,7 +99,8 @@ public:
 
 class Tour {
 public:
-    Tour(MainWindowWidget& window, const QDir& out) : window_(window), out_(out) {}
+    Tour(MainWindowWidget& window, TourReadings& readings, const QDir& out)
+        : window_(window), readings_(readings), out_(out) {}
 
     bool run() {
         window_.resize(1280, 800);
@@ -109,12 +146,43 @@ public:
         clickFirstRow("tbl_bestMatches");
         save(window_, "best-matches.png");
 
+        if (!rotationSeries()) {
+            return false;
+        }
+
         saveScreen("btn_contactUs", "contact.png");
         saveScreen("btn_tutorial", "tutorial.png");
-        return saved_ == 8;
+        return saved_ == 9;
     }
 
 private:
+    // A tourmaline turned on the prism and captured at every position as it holds steady; its
+    // lowest and highest then ranked.
+    bool rotationSeries() {
+        click("btn_RIReading");
+        click("check_autoCapture");
+        click("btn_newStone");
+        readings_.turnTourmaline();
+        const auto captured = [this] {
+            return child<QLabel>("lbl_seriesValues")
+                ->text()
+                .split("   ", Qt::SkipEmptyParts)
+                .size();
+        };
+        const int wanted = static_cast<int>(TourReadings::positions.size());
+        const auto turned =
+            std::chrono::milliseconds(100) *
+            (TourReadings::liftedReadings + TourReadings::readingsPerPosition * (wanted + 1));
+        if (!QTest::qWaitFor([&] { return captured() >= wanted; },
+                             static_cast<int>(turned.count()))) {
+            std::cerr << "velmora-screenshots: the tourmaline's series was not captured\n";
+            return false;
+        }
+        click("btn_identifySeries");
+        save(window_, "rotation-series.png");
+        return true;
+    }
+
     template <class Widget> Widget* child(const char* name) {
         auto* widget = window_.findChild<Widget*>(name);
         if (!widget) {
@@ -201,6 +269,7 @@ private:
     }
 
     MainWindowWidget& window_;
+    TourReadings& readings_;
     QDir out_;
     int saved_ = 0;
 };
@@ -224,10 +293,8 @@ int run(int argc, char** argv) {
     QtRunLoop runLoop(&application);
     NotificationCenter center;
     QuietLog log;
-    HIDDeviceConnector instrument(
-        sim::simulatedInstrumentFactory(
-            std::make_shared<sim::ReplayedReadings>(std::vector<std::uint16_t>{shownReading})),
-        runLoop, center, log);
+    const auto readings = std::make_shared<TourReadings>();
+    HIDDeviceConnector instrument(sim::simulatedInstrumentFactory(readings), runLoop, center, log);
     UnexpectedAlerts alerts;
     // The same notation on every machine, so the pictures match the tutorial's text.
     const FixedLocale locale(".");
@@ -248,7 +315,7 @@ int run(int argc, char** argv) {
     ApplicationShell shell({runLoop, center, alerts, locale, referenceFilePath(Bundle::main()),
                             std::cerr, screens, instrument},
                            delegate);
-    const bool done = Tour(shell.window(), out).run();
+    const bool done = Tour(shell.window(), *readings, out).run();
     instrument.disconnectDataToDevice();
     return done && alerts.count == 0 ? 0 : 1;
 }
