@@ -41,6 +41,10 @@ public:
 
     void setAction(Action action) { action_ = std::move(action); }
 
+    // The key that clicks the button when no entry has the keyboard (" ": Space).
+    const std::string& keyEquivalent() const { return keyEquivalent_; }
+    void setKeyEquivalent(std::string key) { keyEquivalent_ = std::move(key); }
+
     // A click, by the user or by the program: a disabled button ignores it; a check box turns
     // on (from off or mixed) or off before the action runs.
     void performClick();
@@ -49,6 +53,7 @@ private:
     ButtonState state_ = ButtonState::Off;
     AttributedTitle attributedTitle_;
     Action action_;
+    std::string keyEquivalent_;
     ButtonType type_;
 };
 

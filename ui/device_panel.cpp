@@ -3,8 +3,6 @@
 #include "ui/system_colors.h"
 #include "ui/view_controller.h"
 
-#include <limits>
-
 namespace velmora {
 
 void ViewController::queueDevicePanelState(DevicePanelState state) {
@@ -47,9 +45,7 @@ void ViewController::usbDisconnectedWithNotification(const HIDDeviceDisconnected
 
 void ViewController::hidReadDataWithNotification(const HIDDeviceDataReceived& notification) {
     usb_device_reading.setText(formatReadingForDisplay(notification.data, environment_.locale));
-    capture_.add(
-        environment_.runLoop.now(),
-        parseCNumber(notification.data).value_or(std::numeric_limits<double>::quiet_NaN()));
+    measureReading(parseCNumber(notification.data));
 }
 
 void ViewController::btn_connect_tap(Button&) {

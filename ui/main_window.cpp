@@ -2,6 +2,8 @@
 
 #include "ui/field_editor.h"
 
+#include <concepts>
+#include <type_traits>
 #include <unicode/utf8.h>
 
 namespace velmora {
@@ -66,6 +68,30 @@ void MainWindow::insertText(std::string_view typed) {
                                                           static_cast<std::size_t>(start),
                                                           static_cast<std::size_t>(i - start))));
     }
+}
+
+bool MainWindow::performKeyEquivalent(std::string_view key) {
+    if (editing_) {
+        return false;
+    }
+    Button* target = nullptr;
+    const auto consider = [&](auto& element) {
+        if constexpr (std::same_as<std::remove_cvref_t<decltype(element)>, Button>) {
+            if (!target && element.isEnabled() && element.keyEquivalent() == key) {
+                target = &element;
+            }
+        }
+    };
+#define VELMORA_CONSIDER_ELEMENT(Type, name, ...) consider(name);
+#define VELMORA_SKIP_CONSTRAINT(name, view)
+    VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_CONSIDER_ELEMENT, VELMORA_SKIP_CONSTRAINT)
+#undef VELMORA_CONSIDER_ELEMENT
+#undef VELMORA_SKIP_CONSTRAINT
+    if (!target) {
+        return false;
+    }
+    target->performClick();
+    return true;
 }
 
 } // namespace velmora

@@ -8,6 +8,8 @@
 #include "ui/layout_constraint.h"
 #include "ui/main_window_elements.h"
 #include "ui/pop_up_button.h"
+#include "ui/strip_chart.h"
+#include "ui/tab_view.h"
 #include "ui/table_view.h"
 #include "ui/text_field.h"
 #include "ui/text_view.h"
@@ -40,6 +42,9 @@ public:
     // Typing at the end of the edited entry, one character (Unicode scalar) at a time; its
     // delegate hears of every change.
     void insertText(std::string_view typed);
+    // A key pressed while no entry has the keyboard clicks the enabled button it is the key
+    // equivalent of. False when nothing took it: an entry being edited takes its keys itself.
+    bool performKeyEquivalent(std::string_view key);
 
 #define VELMORA_ELEMENT_MEMBER(Type, name, ...) Type name{__VA_ARGS__};
 #define VELMORA_CONSTRAINT_MEMBER(name, view) LayoutConstraint name;

@@ -48,6 +48,23 @@
     ELEMENT(TextField, lbl_deviceStatus)                                                           \
     ELEMENT(Button, btn_connected)                                                                 \
     ELEMENT(Button, btn_disconnected)                                                              \
+    /* Capture and rotation series */                                                              \
+    ELEMENT(View, view_steadyLamp)                                                                 \
+    ELEMENT(TextField, lbl_steadyState)                                                            \
+    ELEMENT(View, view_capture)                                                                    \
+    CONSTRAINT(capture_container_heightConstraint, view_capture)                                   \
+    ELEMENT(StripChart, chart_reading)                                                             \
+    ELEMENT(Button, btn_capture)                                                                   \
+    ELEMENT(Button, btn_newStone)                                                                  \
+    ELEMENT(Button, check_autoCapture, ButtonType::CheckBox)                                       \
+    ELEMENT(TextField, lbl_captureNote)                                                            \
+    ELEMENT(TextField, lbl_seriesValues)                                                           \
+    ELEMENT(TextField, lbl_seriesLow)                                                              \
+    ELEMENT(TextField, lbl_seriesHigh)                                                             \
+    ELEMENT(TextField, lbl_seriesBirefringence)                                                    \
+    ELEMENT(TextField, lbl_seriesVerdict)                                                          \
+    ELEMENT(Button, btn_identifySeries)                                                            \
+    ELEMENT(TabView, resultsTabs)                                                                  \
     /* Results and detail */                                                                       \
     ELEMENT(PopUpButton, btn_stonesList)                                                           \
     ELEMENT(TextField, lbl_stonesCount)                                                            \

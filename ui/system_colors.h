@@ -14,5 +14,6 @@ inline constexpr Rgba red = Rgba::rgb(1.0, 0.0, 0.0);
 inline constexpr Rgba systemRed = Rgba::rgb255(255, 59, 48);
 inline constexpr Rgba systemGreen = Rgba::rgb255(52, 199, 89);
 inline constexpr Rgba systemGray = Rgba::rgb255(142, 142, 147);
+inline constexpr Rgba systemOrange = Rgba::rgb255(255, 149, 0);
 
 } // namespace velmora::systemColors

@@ -35,6 +35,7 @@ void ViewController::enterTab(int tag) {
     (dictionary ? border_dictionary : border_RiReading).setHidden(false);
     check_Name_Container.setHidden(!dictionary);
     reading_container_heightConstraint.setConstant(dictionary ? 0.0 : readingContainerHeight);
+    showCapturePanel(!dictionary);
     resetSearchForm();
     if (dictionary) {
         // Queued, so the boxes become available after the reset above has made them not.

@@ -44,6 +44,10 @@ void ViewController::connectActions() {
     btn_stonesList.setAction([this](PopUpButton& sender) { btn_stoneListChange(sender); });
     btn_connected.setAction([this](Button& sender) { btn_connect_tap(sender); });
     btn_disconnected.setAction([this](Button& sender) { btn_disConnect_tap(sender); });
+    btn_capture.setAction([this](Button& sender) { btn_capture_tap(sender); });
+    btn_newStone.setAction([this](Button& sender) { btn_newStone_tap(sender); });
+    check_autoCapture.setAction([this](Button& sender) { check_autoCapture_tap(sender); });
+    btn_identifySeries.setAction([this](Button& sender) { btn_identifySeries_tap(sender); });
 }
 
 void ViewController::viewDidLoad() {
@@ -58,6 +62,7 @@ void ViewController::viewDidLoad() {
     }
     window_.setTitle(windowTitle);
     styleViews();
+    setUpCapturePanel();
     selectTab(0);
     loadStones();
     bestMatches_.setStones(arr_stonesGlobal);

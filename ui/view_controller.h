@@ -129,6 +129,14 @@ public:
     // The record of what the window measures now, under this label.
     StoneRecord recordOfMeasurement(std::string label) const;
 
+    // Capture and the rotation series (capture_panel.cpp): the steadiness beside the figure, the
+    // strip chart under it, the captures of the stone on the prism and their verdict.
+    void btn_capture_tap(Button& sender);
+    void btn_newStone_tap(Button& sender);
+    void check_autoCapture_tap(Button& sender);
+    // The series' lowest and highest into the ranked identification, shown in Best matches.
+    void btn_identifySeries_tap(Button& sender);
+
 private:
     enum class CheckBoxes { Disable, LeaveEnabled };
 
@@ -143,6 +151,13 @@ private:
 
     void observeInstrument();
     void writeModeAndQueueReset();
+
+    void setUpCapturePanel();
+    void showCapturePanel(bool shown);
+    // value: the reading as a number; nothing when it was none.
+    void measureReading(std::optional<double> value);
+    void showSteadiness(SteadinessState state);
+    void showSeries(const RotationSeries& series);
 
     void showAlert(const std::string& message, const std::string& informative, AlertStyle style);
     std::string currentDecimalSeparator() const;

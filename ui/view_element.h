@@ -28,6 +28,7 @@ enum class Property {
     Constant,
     Title,
     TextColor,
+    Content,
 };
 
 class ViewElement {

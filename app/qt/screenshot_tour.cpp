@@ -8,7 +8,6 @@
 #include "app/qt/qt_run_loop.h"
 #include "app/sqlite/sqlite_store.h"
 #include "data/reference_loader.h"
-#include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 
 #include <QAbstractButton>
@@ -25,6 +24,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 #include <iostream>
 
@@ -34,6 +34,42 @@ namespace {
 // Quartz on the prism, held steady.
 constexpr std::uint16_t shownReading = 1544;
 constexpr std::chrono::milliseconds patience{5000};
+
+// Quartz held still, until the tour lifts it and turns a tourmaline on the prism: five positions
+// between its two indices, each settling from above in a few readings and then held, wavering by
+// a thousandth, long enough to be captured.
+class TourReadings final : public sim::ReadingSource {
+public:
+    static constexpr std::array<std::uint16_t, 5> positions{1624, 1631, 1644, 1637, 1626};
+    static constexpr int readingsPerPosition = 18;
+    static constexpr int liftedReadings = 8;
+
+    std::uint16_t next() override {
+        if (!turning_) {
+            return shownReading;
+        }
+        const int reading = count_++;
+        if (reading < liftedReadings) {
+            return 0;
+        }
+        const int step = (reading - liftedReadings) % readingsPerPosition;
+        const auto position =
+            static_cast<std::size_t>((reading - liftedReadings) / readingsPerPosition) %
+            positions.size();
+        static constexpr std::array<int, readingsPerPosition> settle{9, 4, 2, 0, 1, 0,  0, -1, 0,
+                                                                     0, 1, 0, 0, 0, -1, 0, 1,  0};
+        return static_cast<std::uint16_t>(positions[position] + settle[step]);
+    }
+    // From the loop's thread, as next() is called.
+    void turnTourmaline() {
+        count_ = 0;
+        turning_ = true;
+    }
+
+private:
+    bool turning_ = false;
+    int count_ = 0;
+};
 
 class QuietLog final : public Log {
 public:
@@ -62,7 +98,8 @@ public:
 
 class Tour {
 public:
-    Tour(MainWindowWidget& window, const QDir& out) : window_(window), out_(out) {}
+    Tour(MainWindowWidget& window, TourReadings& readings, const QDir& out)
+        : window_(window), readings_(readings), out_(out) {}
 
     bool run() {
         window_.resize(1280, 800);
@@ -110,10 +147,13 @@ public:
 
         keepRecords();
         save(window_, "records.png");
+        if (!rotationSeries()) {
+            return false;
+        }
 
         saveScreen("btn_contactUs", "contact.png");
         saveScreen("btn_tutorial", "tutorial.png");
-        return saved_ == 9;
+        return saved_ == 10;
     }
 
     // Answers the label the Records view asks for, so the tour opens no dialog.
@@ -159,6 +199,33 @@ public:
     }
 
 private:
+    // A tourmaline turned on the prism and captured at every position as it holds steady; its
+    // lowest and highest then ranked.
+    bool rotationSeries() {
+        click("btn_RIReading");
+        click("check_autoCapture");
+        click("btn_newStone");
+        readings_.turnTourmaline();
+        const auto captured = [this] {
+            return child<QLabel>("lbl_seriesValues")
+                ->text()
+                .split("   ", Qt::SkipEmptyParts)
+                .size();
+        };
+        const int wanted = static_cast<int>(TourReadings::positions.size());
+        const auto turned =
+            std::chrono::milliseconds(100) *
+            (TourReadings::liftedReadings + TourReadings::readingsPerPosition * (wanted + 1));
+        if (!QTest::qWaitFor([&] { return captured() >= wanted; },
+                             static_cast<int>(turned.count()))) {
+            std::cerr << "velmora-screenshots: the tourmaline's series was not captured\n";
+            return false;
+        }
+        click("btn_identifySeries");
+        save(window_, "rotation-series.png");
+        return true;
+    }
+
     template <class Widget> Widget* child(const char* name) {
         auto* widget = window_.findChild<Widget*>(name);
         if (!widget) {
@@ -247,6 +314,7 @@ private:
     }
 
     MainWindowWidget& window_;
+    TourReadings& readings_;
     QDir out_;
     int saved_ = 0;
     Labels labels_;
@@ -271,10 +339,8 @@ int run(int argc, char** argv) {
     QtRunLoop runLoop(&application);
     NotificationCenter center;
     QuietLog log;
-    HIDDeviceConnector instrument(
-        sim::simulatedInstrumentFactory(
-            std::make_shared<sim::ReplayedReadings>(std::vector<std::uint16_t>{shownReading})),
-        runLoop, center, log);
+    const auto readings = std::make_shared<TourReadings>();
+    HIDDeviceConnector instrument(sim::simulatedInstrumentFactory(readings), runLoop, center, log);
     UnexpectedAlerts alerts;
     // The same notation on every machine, so the pictures match the tutorial's text.
     const FixedLocale locale(".");
@@ -295,7 +361,7 @@ int run(int argc, char** argv) {
     ApplicationShell shell({runLoop, center, alerts, locale, referenceFilePath(Bundle::main()),
                             std::cerr, screens, instrument},
                            delegate);
-    Tour tour(shell.window(), out);
+    Tour tour(shell.window(), *readings, out);
     tour.useLabels(shell.controller(), delegate);
     const bool done = tour.run();
     instrument.disconnectDataToDevice();

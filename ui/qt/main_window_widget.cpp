@@ -1,6 +1,7 @@
 #include "ui/qt/main_window_widget.h"
 
 #include "ui/qt/button_binding.h"
+#include "ui/qt/capture_bindings.h"
 #include "ui/qt/entry_binding.h"
 #include "ui/qt/label_binding.h"
 #include "ui/qt/pop_up_binding.h"
@@ -9,6 +10,9 @@
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QShortcut>
 #include <concepts>
 
 namespace velmora::qt {
@@ -71,6 +75,10 @@ public:
     void bind(TableView& table, QTableView* widget) { add<TableBinding>(table, widget); }
     void bind(TextView& view, QPlainTextEdit* widget) { add<TextViewBinding>(view, widget); }
     void bind(LayoutConstraint& height, QWidget* widget) { add<HeightBinding>(height, widget); }
+    void bind(StripChart& chart, StripChartWidget* widget) {
+        add<StripChartBinding>(chart, widget);
+    }
+    void bind(TabView& tabs, QTabWidget* widget) { add<TabBinding>(tabs, widget); }
 
 private:
     template <class Binding, class... Arguments> void add(Arguments&&... arguments) {
@@ -89,6 +97,15 @@ MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
     : QMainWindow(parent), form_(std::make_unique<Ui::MainWindowForm>()) {
     form_->setupUi(this);
     bindElements(elements);
+    // A shortcut, so a button that has the keyboard does not take Space as its own click; an
+    // entry being edited still gets it as text.
+    auto* space = new QShortcut(QKeySequence(Qt::Key_Space), this);
+    connect(space, &QShortcut::activated, this, [this, &elements] {
+        const QWidget* focus = focusWidget();
+        if (!qobject_cast<const QLineEdit*>(focus) && !qobject_cast<const QPlainTextEdit*>(focus)) {
+            elements.performKeyEquivalent(" ");
+        }
+    });
 }
 
 // The bindings go before the widgets do, so no element tells a widget that is gone.

@@ -98,6 +98,7 @@ TEST(WindowElements, EachIsShownByTheWidgetOfItsName) {
         }
     };
     elements.reading_container_heightConstraint.setConstant(40);
+    elements.capture_container_heightConstraint.setConstant(40);
 #define VELMORA_CHECK_ELEMENT(Type, name, ...) expectHiddenWith(elements.name, #name);
 #define VELMORA_CHECK_CONSTRAINT(name, view) expectHiddenAtZero(elements.name, #view);
     VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_CHECK_ELEMENT, VELMORA_CHECK_CONSTRAINT)

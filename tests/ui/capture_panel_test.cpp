@@ -1,0 +1,246 @@
+#include "tests/support/reference_rows.h"
+#include "tests/support/window_harness.h"
+#include "ui/system_colors.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora::test {
+namespace {
+
+using namespace std::chrono_literals;
+using Texts = std::vector<std::string>;
+
+const MatchedHIDDevice velmoraInstrument{.productId = 63999, .vendorId = 1240, .name = "Velmora"};
+
+// The gemmologist's bench: the instrument connected, readings arriving ten a second.
+struct Bench : WindowHarness {
+    explicit Bench(std::string separator = ".", bool connect = true)
+        : WindowHarness(
+              {.rows = std::vector<std::string>{stoneRow("1", "Tourmaline", "1.624-1.644"),
+                                                stoneRow("2", "Quartz", "1.544-1.553")},
+               .decimalSeparator = std::move(separator)}) {
+        if (connect) {
+            notificationCenter.post(HIDDeviceConnected{velmoraInstrument});
+            runQueued();
+        }
+    }
+    // Readings of one position, as the instrument sends them.
+    void read(const std::string& reading, int count = 1) {
+        for (int i = 0; i < count; ++i) {
+            runLoop.advance(100ms);
+            notificationCenter.post(HIDDeviceDataReceived{reading});
+            runQueued();
+        }
+    }
+    // Held long enough to settle.
+    void hold(const std::string& reading) { read(reading, 15); }
+    void capturePositions(const Texts& readings) {
+        for (const auto& reading : readings) {
+            hold(reading);
+            click(window.btn_capture);
+        }
+    }
+    const std::string& note() const { return window.lbl_captureNote.text(); }
+    Texts series() const {
+        const MainWindow& w = window;
+        return {w.lbl_seriesValues.text(), w.lbl_seriesLow.text(), w.lbl_seriesHigh.text(),
+                w.lbl_seriesBirefringence.text(), w.lbl_seriesVerdict.text()};
+    }
+};
+
+TEST(CapturePanel, CaptureTakesTheSteadyReadingOrSaysWhyNot) {
+    const struct {
+        const char* situation;
+        bool connected;
+        Texts readings; // each held for a tenth of a second
+        std::string note;
+        std::string captured;
+    } cases[] = {
+        {"not connected", false, {}, "Nothing captured: connect the instrument first", ""},
+        {"no reading yet", true, {}, "Nothing captured: no stone on the prism", ""},
+        {"stone lifted", true, {"0.000", "0.000"}, "Nothing captured: no stone on the prism", ""},
+        {"just placed",
+         true,
+         {"1.640", "1.628", "1.624"},
+         "Nothing captured: the reading is still settling",
+         ""},
+        {"steady", true, Texts(15, "1.624"), "Captured 1.624", "1.624"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.situation);
+        Bench b(".", c.connected);
+        for (const auto& reading : c.readings) {
+            b.read(reading);
+        }
+        b.click(b.window.btn_capture);
+        EXPECT_EQ(b.note(), c.note);
+        EXPECT_EQ(b.window.lbl_seriesValues.text(), c.captured);
+    }
+}
+
+TEST(CapturePanel, TheSteadinessShowsBesideTheFigure) {
+    Bench b;
+    const auto shows = [&](const char* text, Rgba lamp) {
+        EXPECT_EQ(b.window.lbl_steadyState.text(), text);
+        EXPECT_EQ(b.window.view_steadyLamp.backgroundColor(), lamp);
+    };
+    shows("No stone", systemColors::systemGray);
+    b.read("1.624", 3);
+    shows("Settling", systemColors::systemOrange);
+    b.hold("1.624");
+    shows("Steady", systemColors::systemGreen);
+    b.read("0.000");
+    shows("No stone", systemColors::systemGray);
+}
+
+TEST(CapturePanel, ASeriesGivesLowHighBirefringenceAndTheVerdict) {
+    const struct {
+        const char* stone;
+        std::string separator;
+        Texts positions;
+        Texts shown; // values, low, high, birefringence, verdict
+    } cases[] = {
+        {"nothing captured", ".", {}, {"", "-", "-", "-", "no reading captured"}},
+        {"tourmaline turned",
+         ".",
+         {"1.624", "1.631", "1.644"},
+         {"1.624   1.631   1.644", "1.624", "1.644", "0.020",
+          "doubly refractive, birefringence 0.020"}},
+        {"tourmaline, decimal comma",
+         ",",
+         {"1.631", "1.624"},
+         {"1,631   1,624", "1,624", "1,631", "0,007", "doubly refractive, birefringence 0,007"}},
+        {"spinel, three positions",
+         ".",
+         {"1.718", "1.718", "1.719"},
+         {"1.718   1.718   1.719", "1.718", "1.719", "0.001",
+          "more positions needed: 3 of 4 taken"}},
+        {"spinel, four positions",
+         ".",
+         {"1.718", "1.718", "1.719", "1.718"},
+         {"1.718   1.718   1.719   1.718", "1.718", "1.719", "0.001",
+          "singly refractive or aggregate"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.stone);
+        Bench b(c.separator);
+        b.capturePositions(c.positions);
+        EXPECT_EQ(b.series(), c.shown);
+        EXPECT_EQ(b.window.btn_identifySeries.isEnabled(), !c.positions.empty());
+    }
+}
+
+TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTabAndNotWhileTyping) {
+    const struct {
+        const char* where;
+        bool dictionary;
+        bool typing;
+        bool captured;
+    } cases[] = {
+        {"reading tab", false, false, true},
+        {"typing the S.G.", false, true, false},
+        {"dictionary", true, false, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.where);
+        Bench b;
+        if (c.dictionary) {
+            b.click(b.window.bvtn_dictionary);
+        }
+        b.hold("1.624");
+        if (c.typing) {
+            b.click(b.window.btn_enter);
+            b.click(b.window.check_sg);
+            b.type(b.window.txt_leftSG, "2.6");
+            ASSERT_EQ(b.window.firstResponder(), &b.window.txt_leftSG);
+        }
+        EXPECT_EQ(b.window.performKeyEquivalent(" "), c.captured);
+        b.runQueued();
+        EXPECT_EQ(b.window.lbl_seriesValues.text(), c.captured ? "1.624" : "");
+    }
+}
+
+TEST(CapturePanel, NewStoneStartsTheNextSeries) {
+    Bench b;
+    b.capturePositions({"1.624", "1.644"});
+    b.click(b.window.btn_newStone);
+    EXPECT_EQ(b.series(), (Texts{"", "-", "-", "-", "no reading captured"}));
+    EXPECT_FALSE(b.window.btn_identifySeries.isEnabled());
+    b.capturePositions({"1.544"});
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.544");
+}
+
+TEST(CapturePanel, AutomaticCaptureTakesEverySteadyReadingAndALiftStartsTheNextStone) {
+    Bench b;
+    b.hold("1.624");
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), ""); // off at first
+    b.click(b.window.check_autoCapture);
+    EXPECT_EQ(b.window.check_autoCapture.state(), ButtonState::On);
+    b.read("1.640", 2); // turned
+    b.hold("1.644");
+    b.hold("1.644"); // held on: no second capture of the same position
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.644");
+    b.hold("1.631");
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.644   1.631");
+
+    b.read("0.000", 5);
+    b.hold("1.544");
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.544");
+
+    b.click(b.window.check_autoCapture);
+    b.hold("1.553");
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.544");
+}
+
+TEST(CapturePanel, IdentifyFromSeriesRanksTheLowAndHighInBestMatches) {
+    Bench b;
+    b.capturePositions({"1.631", "1.624", "1.644"});
+    b.click(b.window.btn_identifySeries);
+    const MainWindow& w = b.window;
+    EXPECT_EQ(w.check_RI.state(), ButtonState::On);
+    EXPECT_EQ(w.txt_leftRIReading.text(), "1.624");
+    EXPECT_EQ(w.txt_leftRIHigh.text(), "1.644");
+    EXPECT_EQ(w.resultsTabs.indexOfSelectedItem(), 1);
+    ASSERT_GT(b.window.tbl_bestMatches.numberOfRows(), 0);
+    const std::string best = cellText(b.window.tbl_bestMatches, 1, 0).value_or("");
+    EXPECT_EQ(best.substr(0, best.find('\n')), "Tourmaline");
+}
+
+TEST(CapturePanel, TheChartFollowsTheReadingsTheBandAndTheCaptures) {
+    Bench b;
+    const StripChart& chart = b.window.chart_reading;
+    b.read("0.000");
+    b.read("1.624", 3);
+    ASSERT_EQ(chart.readings().size(), 4u);
+    EXPECT_EQ(chart.readings().front().value, std::nullopt); // no stone: a gap
+    EXPECT_EQ(chart.readings().back().value, 1.624);
+    EXPECT_EQ(chart.band(), std::nullopt); // settling
+
+    b.hold("1.624");
+    ASSERT_TRUE(chart.band());
+    EXPECT_NEAR(chart.band()->low, 1.623, 1e-9);
+    EXPECT_NEAR(chart.band()->high, 1.625, 1e-9);
+    b.click(b.window.btn_capture);
+    ASSERT_EQ(chart.captures().size(), 1u);
+    EXPECT_EQ(chart.captures().back().time, chart.now());
+    EXPECT_EQ(chart.captures().back().value, 1.624);
+
+    b.click(b.window.btn_newStone); // the marks stay: they are history
+    EXPECT_EQ(chart.captures().size(), 1u);
+    b.read("0.000");
+    EXPECT_EQ(chart.band(), std::nullopt);
+}
+
+TEST(CapturePanel, TheCapturePanelCollapsesInTheDictionary) {
+    Bench b;
+    EXPECT_GT(b.window.capture_container_heightConstraint.constant(), 0.0);
+    b.click(b.window.bvtn_dictionary);
+    EXPECT_EQ(b.window.capture_container_heightConstraint.constant(), 0.0);
+    EXPECT_FALSE(b.window.btn_capture.isEnabled());
+    b.click(b.window.btn_RIReading);
+    EXPECT_GT(b.window.capture_container_heightConstraint.constant(), 0.0);
+    EXPECT_TRUE(b.window.btn_capture.isEnabled());
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,51 @@
+#include "tests/ui/qt/shell_fixture.h"
+
+#include <QTabWidget>
+#include <QTest>
+
+namespace velmora::test {
+namespace {
+
+using CaptureWindow = ShellTest;
+
+// Space reaches the capture whichever button last took the keyboard, and never an entry's text.
+TEST_F(CaptureWindow, SpaceCapturesUnlessAnEntryHasTheKeyboard) {
+    open();
+    click("btn_connected");
+    for (int i = 0; i < 15; ++i) {
+        runLoop.advance(HIDDeviceConnector::updateInterval);
+    }
+    settle();
+    EXPECT_EQ(text("lbl_steadyState"), "Steady");
+    widget("btn_RIReading")->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(text("lbl_captureNote").left(9), "Captured ");
+    const QString captured = text("lbl_seriesValues");
+    EXPECT_FALSE(captured.isEmpty());
+
+    click("btn_enter");
+    click("check_sg");
+    type("txt_leftSG", "2");
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(text("lbl_seriesValues"), captured);
+}
+
+TEST_F(CaptureWindow, IdentifyShowsBestMatchesAndTheDictionaryHidesThePanel) {
+    open();
+    click("btn_connected");
+    for (int i = 0; i < 15; ++i) {
+        runLoop.advance(HIDDeviceConnector::updateInterval);
+    }
+    click("btn_capture");
+    click("btn_identifySeries");
+    EXPECT_EQ(widget<QTabWidget>("resultsTabs")->currentWidget(), widget("tab_bestMatches"));
+    EXPECT_GT(widget("chart_reading")->height(), 0);
+
+    click("bvtn_dictionary");
+    EXPECT_FALSE(widget("view_capture")->isVisible());
+    click("btn_RIReading");
+    EXPECT_TRUE(widget("chart_reading")->isVisible());
+}
+
+} // namespace
+} // namespace velmora::test
