@@ -1,9 +1,11 @@
 #include "ui/qt/main_window_widget.h"
 
+#include "main_window_style.h"
 #include "ui/qt/button_binding.h"
 #include "ui/qt/capture_bindings.h"
 #include "ui/qt/entry_binding.h"
 #include "ui/qt/label_binding.h"
+#include "ui/qt/layer_sheet.h"
 #include "ui/qt/pop_up_binding.h"
 #include "ui/qt/table_binding.h"
 #include "ui/qt/text_view_binding.h"
@@ -96,6 +98,7 @@ private:
 MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
     : QMainWindow(parent), form_(std::make_unique<Ui::MainWindowForm>()) {
     form_->setupUi(this);
+    new LayerSheet(*this, mainWindowStyleSheet);
     bindElements(elements);
     // A shortcut, so a button that has the keyboard does not take Space as its own click; an
     // entry being edited still gets it as text.

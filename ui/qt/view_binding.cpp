@@ -1,6 +1,7 @@
 #include "ui/qt/view_binding.h"
 
 #include "ui/control.h"
+#include "ui/qt/layer_sheet.h"
 #include "ui/qt/layer_style.h"
 
 namespace velmora::qt {
@@ -27,11 +28,11 @@ void ViewBinding::apply(Property property) {
     case Property::BorderWidth:
     case Property::BorderColor:
     case Property::CornerRadius: {
-        // Setting a style sheet restyles the widget and all it holds, the same one included:
-        // done four times for each element as the window is bound, that was most of start-up.
-        const QString sheet = layerStyleSheet(widget_->objectName(), view_);
-        if (sheet != widget_->styleSheet()) {
-            widget_->setStyleSheet(sheet);
+        const QString rule = layerStyleSheet(widget_->objectName(), view_);
+        if (LayerSheet* sheet = LayerSheet::of(*widget_)) {
+            sheet->setRule(*widget_, rule);
+        } else if (rule != widget_->styleSheet()) {
+            widget_->setStyleSheet(rule);
         }
         break;
     }
