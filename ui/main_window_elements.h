@@ -7,7 +7,7 @@
 // an element is added here and in the .ui file, and nowhere else.
 //
 // The names are the window's own, spelling included.
-#define VELMORA_MAIN_WINDOW_ELEMENTS(ELEMENT, CONSTRAINT)                                          \
+#define VELMORA_MAIN_FORM_ELEMENTS(ELEMENT, CONSTRAINT)                                            \
     /* the root view */                                                                            \
     ELEMENT(View, view)                                                                            \
     /* Top bar and navigation */                                                                   \
@@ -83,7 +83,11 @@
     ELEMENT(TextView, txt_otherInformation)                                                        \
     ELEMENT(TextView, txt_otherProduct)                                                            \
     /* Records */                                                                                  \
-    ELEMENT(Button, btn_saveRecord)                                                                \
+    ELEMENT(Button, btn_saveRecord)
+
+// The Records tab's elements: their widgets, in resources/records_page.ui, are made the first time
+// the tab is shown, since the first paint does not need them.
+#define VELMORA_RECORDS_PAGE_ELEMENTS(ELEMENT)                                                     \
     ELEMENT(TextField, txt_recordsFilter)                                                          \
     ELEMENT(TableView, tbl_records,                                                                \
             std::vector<TableColumn>{{"labelColumn"}, {"dateColumn"}, {"conclusionColumn"}})       \
@@ -96,3 +100,6 @@
     ELEMENT(Button, btn_exportRecords)                                                             \
     ELEMENT(Button, btn_reportRecords)                                                             \
     ELEMENT(Button, btn_printRecords)
+
+#define VELMORA_MAIN_WINDOW_ELEMENTS(ELEMENT, CONSTRAINT)                                          \
+    VELMORA_MAIN_FORM_ELEMENTS(ELEMENT, CONSTRAINT) VELMORA_RECORDS_PAGE_ELEMENTS(ELEMENT)

@@ -10,6 +10,7 @@
 #include "ui/qt/table_binding.h"
 #include "ui/qt/text_view_binding.h"
 #include "ui_main_window.h"
+#include "ui_records_page.h"
 
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -96,10 +97,15 @@ private:
 } // namespace
 
 MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
-    : QMainWindow(parent), form_(std::make_unique<Ui::MainWindowForm>()) {
+    : QMainWindow(parent), elements_(elements), form_(std::make_unique<Ui::MainWindowForm>()) {
     form_->setupUi(this);
     new LayerSheet(*this, mainWindowStyleSheet);
     bindElements(elements);
+    connect(form_->resultsTabs, &QTabWidget::currentChanged, this, [this](int index) {
+        if (form_->resultsTabs->widget(index) == form_->tab_records) {
+            makeRecordsPage();
+        }
+    });
     // A shortcut, so a button that has the keyboard does not take Space as its own click; an
     // entry being edited still gets it as text.
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), this);
@@ -120,9 +126,30 @@ void MainWindowWidget::bindElements(MainWindow& w) {
     binder.bind(w, this);
 #define VELMORA_BIND_ELEMENT(Type, name, ...) binder.bind(w.name, f.name);
 #define VELMORA_BIND_CONSTRAINT(name, view) binder.bind(w.name, f.view);
-    VELMORA_MAIN_WINDOW_ELEMENTS(VELMORA_BIND_ELEMENT, VELMORA_BIND_CONSTRAINT)
+    VELMORA_MAIN_FORM_ELEMENTS(VELMORA_BIND_ELEMENT, VELMORA_BIND_CONSTRAINT)
 #undef VELMORA_BIND_ELEMENT
 #undef VELMORA_BIND_CONSTRAINT
+}
+
+void MainWindowWidget::makeRecordsPage() {
+    if (recordsPage_) {
+        return;
+    }
+    recordsPage_ = std::make_unique<Ui::RecordsPageForm>();
+    QWidget* page = form_->tab_records;
+    recordsPage_->setupUi(page);
+    // The page is showing already: what it now holds shows with it at once, not on the next
+    // turn of the event loop, as Qt would do for widgets added to a shown layout.
+    for (QWidget* child : page->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+            child->show();
+        }
+    }
+    Binder binder(elements_, bindings_);
+    Ui::RecordsPageForm& f = *recordsPage_;
+#define VELMORA_BIND_ELEMENT(Type, name, ...) binder.bind(elements_.name, f.name);
+    VELMORA_RECORDS_PAGE_ELEMENTS(VELMORA_BIND_ELEMENT)
+#undef VELMORA_BIND_ELEMENT
 }
 
 QAction* MainWindowWidget::saveAction() const {

@@ -1,8 +1,8 @@
 #pragma once
 
-// The main window on the desktop: the widgets of resources/main_window.ui, each bound to the
-// window element of the same name, and the File menu's Save and Quit for the application to
-// connect.
+// The main window on the desktop: the widgets of resources/main_window.ui and
+// resources/records_page.ui, each bound to the window element of the same name, and the File menu's
+// Save and Quit for the application to connect.
 
 #include "ui/main_window.h"
 
@@ -15,7 +15,8 @@ class QAction;
 
 namespace Ui {
 class MainWindowForm;
-}
+class RecordsPageForm;
+} // namespace Ui
 
 namespace velmora::qt {
 
@@ -40,8 +41,12 @@ protected:
 
 private:
     void bindElements(MainWindow& elements);
+    // The Records tab's widgets, bound to their elements, the first time the tab is shown.
+    void makeRecordsPage();
 
+    MainWindow& elements_;
     std::unique_ptr<Ui::MainWindowForm> form_;
+    std::unique_ptr<Ui::RecordsPageForm> recordsPage_;
     std::vector<std::unique_ptr<ElementBinding>> bindings_;
     std::function<bool()> closeRequest_;
 };

@@ -3,6 +3,7 @@
 #include "ui/qt/main_window_widget.h"
 
 #include <QCheckBox>
+#include <QTabWidget>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -74,6 +75,9 @@ TEST_F(Window, ConnectLightsTheLampAndEnterListsTheStonesForTheReading) {
 TEST(WindowElements, EachIsShownByTheWidgetOfItsName) {
     MainWindow elements;
     qt::MainWindowWidget window(elements);
+    // The Records tab makes its widgets when first shown.
+    window.findChild<QTabWidget*>("resultsTabs")
+        ->setCurrentWidget(window.findChild<QWidget*>("tab_records"));
     const auto widgetNamed = [&](const char* name) {
         auto* widget = window.findChild<QWidget*>(name);
         EXPECT_NE(widget, nullptr) << name;
