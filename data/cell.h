@@ -18,7 +18,12 @@ public:
     Cell() = default;
     Cell(const Cell& other) { assign(other.view()); }
     Cell(Cell&& other) noexcept : p_(other.p_) { other.p_ = nullptr; }
-    Cell& operator=(const Cell& other) { return *this = other.view(); }
+    Cell& operator=(const Cell& other) {
+        if (this != &other) {
+            *this = other.view();
+        }
+        return *this;
+    }
     Cell& operator=(Cell&& other) noexcept;
     Cell& operator=(std::string_view text);
     ~Cell() { release(); }
