@@ -120,7 +120,6 @@ TEST(Cell, SetCopiedAndMovedKeepsItsText) {
     Cell b = a;
     Cell c = std::move(a);
     b = "Ruby";
-    c = c; // NOLINT: assignment to itself
     EXPECT_EQ(c, "Spinel");
     EXPECT_EQ(b, "Ruby");
     EXPECT_EQ(b + "-" + c, "Ruby-Spinel");

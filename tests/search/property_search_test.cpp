@@ -33,11 +33,11 @@ TEST(RangeTest, TheFirstTwoHyphenPiecesWithoutSpacesAreTheBoundsAndAnUnreadableO
     }
 }
 
-Stones stone(std::string name, std::string ri = "", std::string color3 = "") {
+Stones stone(std::string_view name, std::string_view ri = "", std::string_view color3 = "") {
     Stones s;
-    s.StoneName = std::move(name);
-    s.Ri = std::move(ri);
-    s.Color3 = std::move(color3);
+    s.StoneName = name;
+    s.Ri = ri;
+    s.Color3 = color3;
     return s;
 }
 

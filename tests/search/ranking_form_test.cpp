@@ -9,14 +9,14 @@ namespace {
 
 const DecimalSeparators point;
 
-Stones stone(std::string name, std::string ri, std::string sg, std::string birefringence,
-             std::string family) {
+Stones stone(std::string_view name, std::string_view ri, std::string_view sg,
+             std::string_view birefringence, std::string_view family) {
     Stones s;
-    s.StoneName = std::move(name);
-    s.Ri = std::move(ri);
-    s.SgRange = std::move(sg);
-    s.Birefringence = std::move(birefringence);
-    s.StoneFamily = std::move(family);
+    s.StoneName = name;
+    s.Ri = ri;
+    s.SgRange = sg;
+    s.Birefringence = birefringence;
+    s.StoneFamily = family;
     return s;
 }
 

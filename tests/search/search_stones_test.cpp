@@ -5,14 +5,14 @@
 namespace velmora::test {
 namespace {
 
-Stones stone(std::string name, std::string ri, std::string sg, std::string hardness,
-             std::string color) {
+Stones stone(std::string_view name, std::string_view ri, std::string_view sg,
+             std::string_view hardness, std::string_view color) {
     Stones s;
-    s.StoneName = std::move(name);
-    s.Ri = std::move(ri);
-    s.SgRange = std::move(sg);
-    s.Hardness = std::move(hardness);
-    s.Color1 = std::move(color);
+    s.StoneName = name;
+    s.Ri = ri;
+    s.SgRange = sg;
+    s.Hardness = hardness;
+    s.Color1 = color;
     return s;
 }
 
