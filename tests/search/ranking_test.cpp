@@ -1,5 +1,4 @@
 #include "search/deviation_text.h"
-#include "search/hydrostatic.h"
 #include "search/range_cell.h"
 #include "search/ranking.h"
 
@@ -209,13 +208,6 @@ TEST(Ranking, DeviationsReadAtAGlanceAndNearMatchesSayWhatFits) {
               "S.G. 0.04 below; Hardness 1.5 below");
     EXPECT_EQ(deviationText(lead({.overTheLimit = true}), true, false, "."),
               "R.I. 0.257 below the limit");
-}
-
-TEST(Hydrostatic, SpecificGravityIsAirOverLossWithItsPrecision) {
-    const auto diamond = specificGravityFromWeights(m(1.000, 0.0005), m(0.716, 0.0005));
-    ASSERT_TRUE(diamond.sg);
-    EXPECT_NEAR(diamond.sg->value, 3.521, 0.001);
-    EXPECT_NEAR(diamond.sg->precision, 0.0106, 0.0001);
 }
 
 } // namespace
