@@ -133,23 +133,22 @@ TEST(RecordsView, AStoreThatRefusesAChangeSaysSoAndLosesNothing) {
 }
 
 TEST(RecordsView, WithoutAStoreOrALabelNothingIsSaved) {
-    RecordsBench b;
-    MemoryStore closed({.opens = false});
-    b.view.setServices({[&closed] { return closed.records(); }, &b.dialogs, &b.report});
-    b.dialogs.labels.push_back("Lot 7");
-    b.view.saveRecord();
-    EXPECT_EQ(b.alertMessages(), (Texts{"The records are not available"}));
-
     const struct {
+        bool opens;
         std::optional<std::string> label;
         Texts alerts;
-    } cases[] = {{std::nullopt, {}}, {"", {"The record needs a label"}}};
+    } cases[] = {{false, "Lot 7", {"The records are not available"}},
+                 {true, std::nullopt, {}},
+                 {true, "", {"The record needs a label"}}};
     for (const auto& c : cases) {
-        RecordsBench unsaved;
-        unsaved.dialogs.labels.push_back(c.label);
-        unsaved.view.saveRecord();
-        EXPECT_TRUE(unsaved.labels().empty());
-        EXPECT_EQ(unsaved.alertMessages(), c.alerts);
+        RecordsBench b;
+        MemoryStore store({.opens = c.opens});
+        store.loadPersistentStores();
+        b.view.setServices({[&store] { return store.records(); }, &b.dialogs, &b.report});
+        b.dialogs.labels.push_back(c.label);
+        b.view.saveRecord();
+        EXPECT_FALSE(store.hasChanges()) << c.opens;
+        EXPECT_EQ(b.alertMessages(), c.alerts) << c.opens;
     }
 }
 
