@@ -60,15 +60,12 @@ std::shared_ptr<View> BestMatches::tableViewViewFor(TableView& table, const Tabl
         return nullptr;
     }
     const BestMatchRow& shown = rows_[static_cast<std::size_t>(row)];
-    auto cell = std::dynamic_pointer_cast<TableCellView>(table.makeView(cellIdentifier));
-    if (cell && cell->textField()) {
-        const std::string& id = column->identifier;
-        cell->textField()->setText(id == fitColumn         ? shown.fit
-                                   : id == candidateColumn ? shown.candidate
-                                                           : shown.deviations);
-        if (id == fitColumn) {
-            cell->textField()->setTextColor(shown.withinTolerance ? fitsInk : nearInk);
-        }
+    const std::string& id = column->identifier;
+    auto cell = table.makeTextCell(cellIdentifier, id == fitColumn         ? shown.fit
+                                                   : id == candidateColumn ? shown.candidate
+                                                                           : shown.deviations);
+    if (cell && cell->textField() && id == fitColumn) {
+        cell->textField()->setTextColor(shown.withinTolerance ? fitsInk : nearInk);
     }
     return cell;
 }

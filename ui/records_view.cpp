@@ -237,14 +237,10 @@ std::shared_ptr<View> RecordsView::tableViewViewFor(TableView& table, const Tabl
         return nullptr;
     }
     const StoneRecord& r = shown_[static_cast<std::size_t>(row)];
-    auto cell = std::dynamic_pointer_cast<TableCellView>(table.makeView(cellIdentifier));
-    if (cell && cell->textField()) {
-        const std::string& id = column->identifier;
-        cell->textField()->setText(id == labelColumn  ? r.label
-                                   : id == dateColumn ? reportDateText(r.examined)
-                                                      : r.conclusion);
-    }
-    return cell;
+    const std::string& id = column->identifier;
+    return table.makeTextCell(cellIdentifier, id == labelColumn  ? r.label
+                                              : id == dateColumn ? reportDateText(r.examined)
+                                                                 : r.conclusion);
 }
 
 double RecordsView::tableViewHeightOfRow(TableView&, int) {

@@ -65,13 +65,8 @@ std::shared_ptr<View> ViewController::tableViewViewFor(TableView& table, const T
     }
     const Stones& stone = arr_stones[static_cast<std::size_t>(row)];
     const bool idColumn = column && column->identifier == MainWindow::idColumn;
-    auto cell = std::dynamic_pointer_cast<TableCellView>(
-        table.makeView(idColumn ? MainWindow::idCell : MainWindow::titleCell));
-    if (cell && cell->textField()) {
-        cell->textField()->setText(idColumn ? stoneNumberText(stone.StoneID, row)
-                                            : stone.StoneName);
-    }
-    return cell;
+    return table.makeTextCell(idColumn ? MainWindow::idCell : MainWindow::titleCell,
+                              idColumn ? stoneNumberText(stone.StoneID, row) : stone.StoneName);
 }
 
 double ViewController::tableViewHeightOfRow(TableView&, int) {

@@ -11,6 +11,15 @@ std::shared_ptr<View> TableView::makeView(const std::string& identifier) const {
     return it == cellViews_.end() ? nullptr : it->second();
 }
 
+std::shared_ptr<TableCellView> TableView::makeTextCell(const std::string& identifier,
+                                                       const std::string& text) const {
+    auto cell = std::dynamic_pointer_cast<TableCellView>(makeView(identifier));
+    if (cell && cell->textField()) {
+        cell->textField()->setText(text);
+    }
+    return cell;
+}
+
 void TableView::reloadData() {
     rows_ = dataSource_ ? dataSource_->numberOfRowsInTableView(*this) : 0;
     changed(Property::Rows);

@@ -68,6 +68,10 @@ public:
     void registerCellView(std::string identifier, CellViewFactory factory);
     // A new cell view of that identifier, or nothing when the interface file has none.
     std::shared_ptr<View> makeView(const std::string& identifier) const;
+    // A new text cell of that identifier showing text; its text field, if any, for the caller's
+    // own touches. Nothing when the interface file has no such cell.
+    std::shared_ptr<TableCellView> makeTextCell(const std::string& identifier,
+                                                const std::string& text) const;
 
     // Counts the rows anew. A selected row that is no longer there is dropped.
     void reloadData();
