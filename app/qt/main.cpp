@@ -15,6 +15,7 @@
 #include "device/sim/replayed_readings.h"
 #include "device/sim/simulated_instrument.h"
 #include "device/sim/simulated_session.h"
+#include "foundation/bundle.h"
 #include "foundation/posix/sys_log.h"
 #include "ui/qt/message_box_alert_presenter.h"
 
@@ -62,6 +63,19 @@ AppDelegate::ContainerFactory containerInDataFolder() {
         return loadSqliteStore(folder / (std::string(AppDelegate::containerName) + ".sqlite"),
                                Bundle::main().pathForResource(AppDelegate::containerName, "sql"));
     };
+}
+
+// The bitmaps installed beside the reference table. The icon theme holds the same pictures, but
+// finding them there parses the theme's index, the largest piece of work left after the first paint.
+QIcon bundledIcon() {
+    QIcon icon;
+    for (const char* size : {"48", "128"}) {
+        if (const auto file =
+                Bundle::main().pathForResource(std::string(VELMORA_APP_ID) + "-" + size, "png")) {
+            icon.addFile(QString::fromStdString(file->string()));
+        }
+    }
+    return icon;
 }
 
 // Everything the application is made of lives in run() and goes in the reverse order of its
@@ -116,9 +130,8 @@ int run(int argc, char** argv) {
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         shell.window().resize(shell.window().size().boundedTo(screen->availableSize()));
     }
-    // Looking the icon up parses the icon theme's index, which the first paint does not need.
-    afterFirstPaint(shell.window(),
-                    [] { QApplication::setWindowIcon(QIcon::fromTheme(VELMORA_APP_ID)); });
+    // The first paint does not need the icon; the window manager takes it a moment later.
+    afterFirstPaint(shell.window(), [] { QApplication::setWindowIcon(bundledIcon()); });
     shell.window().show();
     return QApplication::exec();
 }
