@@ -70,10 +70,6 @@
     ELEMENT(TextField, lbl_stonesCount)                                                            \
     ELEMENT(TableView, tableView,                                                                  \
             std::vector<TableColumn>{{MainWindow::idColumn}, {"titleColumn"}})                     \
-    /* Best matches */                                                                             \
-    ELEMENT(TextField, lbl_bestMatchesNote)                                                        \
-    ELEMENT(TableView, tbl_bestMatches,                                                            \
-            std::vector<TableColumn>{{"fitColumn"}, {"candidateColumn"}, {"deviationsColumn"}})    \
     ELEMENT(TextField, txt_RI)                                                                     \
     ELEMENT(TextField, txt_sg)                                                                     \
     ELEMENT(TextField, txt_hardness)                                                               \
@@ -85,8 +81,14 @@
     /* Records */                                                                                  \
     ELEMENT(Button, btn_saveRecord)
 
-// The Records tab's elements: their widgets, in resources/records_page.ui, are made the first time
-// the tab is shown, since the first paint does not need them.
+// The Best matches tab's elements, in resources/best_matches_page.ui, and the Records tab's, in
+// resources/records_page.ui: their widgets are made the first time their tab is shown, since the
+// first paint does not need them.
+#define VELMORA_BEST_MATCHES_PAGE_ELEMENTS(ELEMENT)                                                \
+    ELEMENT(TextField, lbl_bestMatchesNote)                                                        \
+    ELEMENT(TableView, tbl_bestMatches,                                                            \
+            std::vector<TableColumn>{{"fitColumn"}, {"candidateColumn"}, {"deviationsColumn"}})
+
 #define VELMORA_RECORDS_PAGE_ELEMENTS(ELEMENT)                                                     \
     ELEMENT(TextField, txt_recordsFilter)                                                          \
     ELEMENT(TableView, tbl_records,                                                                \
@@ -102,4 +104,5 @@
     ELEMENT(Button, btn_printRecords)
 
 #define VELMORA_MAIN_WINDOW_ELEMENTS(ELEMENT, CONSTRAINT)                                          \
-    VELMORA_MAIN_FORM_ELEMENTS(ELEMENT, CONSTRAINT) VELMORA_RECORDS_PAGE_ELEMENTS(ELEMENT)
+    VELMORA_MAIN_FORM_ELEMENTS(ELEMENT, CONSTRAINT)                                                \
+    VELMORA_BEST_MATCHES_PAGE_ELEMENTS(ELEMENT) VELMORA_RECORDS_PAGE_ELEMENTS(ELEMENT)

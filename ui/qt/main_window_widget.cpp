@@ -10,6 +10,7 @@
 #include "ui/qt/table_binding.h"
 #include "ui/qt/text_view_binding.h"
 #include "ui_main_window.h"
+#include "ui_best_matches_page.h"
 #include "ui_records_page.h"
 
 #include <QCloseEvent>
@@ -94,6 +95,20 @@ private:
     std::vector<std::unique_ptr<ElementBinding>>& bindings_;
 };
 
+// A tab's widgets from their form. The tab is showing already: what it now holds shows with it
+// at once, not on the next turn of the event loop, as Qt would do for widgets added to a shown
+// layout.
+template <class Form> std::unique_ptr<Form> fillPage(QWidget& page) {
+    auto form = std::make_unique<Form>();
+    form->setupUi(&page);
+    for (QWidget* child : page.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+            child->show();
+        }
+    }
+    return form;
+}
+
 } // namespace
 
 MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
@@ -101,11 +116,9 @@ MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
     form_->setupUi(this);
     new LayerSheet(*this, mainWindowStyleSheet);
     bindElements(elements);
-    connect(form_->resultsTabs, &QTabWidget::currentChanged, this, [this](int index) {
-        if (form_->resultsTabs->widget(index) == form_->tab_records) {
-            makeRecordsPage();
-        }
-    });
+    connect(form_->resultsTabs, &QTabWidget::currentChanged, this,
+            [this](int index) { makePage(form_->resultsTabs->widget(index)); });
+    makePage(form_->resultsTabs->currentWidget());
     // A shortcut, so a button that has the keyboard does not take Space as its own click; an
     // entry being edited still gets it as text.
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), this);
@@ -131,24 +144,18 @@ void MainWindowWidget::bindElements(MainWindow& w) {
 #undef VELMORA_BIND_CONSTRAINT
 }
 
-void MainWindowWidget::makeRecordsPage() {
-    if (recordsPage_) {
-        return;
-    }
-    recordsPage_ = std::make_unique<Ui::RecordsPageForm>();
-    QWidget* page = form_->tab_records;
-    recordsPage_->setupUi(page);
-    // The page is showing already: what it now holds shows with it at once, not on the next
-    // turn of the event loop, as Qt would do for widgets added to a shown layout.
-    for (QWidget* child : page->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
-            child->show();
-        }
-    }
+void MainWindowWidget::makePage(QWidget* page) {
     Binder binder(elements_, bindings_);
-    Ui::RecordsPageForm& f = *recordsPage_;
 #define VELMORA_BIND_ELEMENT(Type, name, ...) binder.bind(elements_.name, f.name);
-    VELMORA_RECORDS_PAGE_ELEMENTS(VELMORA_BIND_ELEMENT)
+    if (page == form_->tab_bestMatches && !bestMatchesPage_) {
+        bestMatchesPage_ = fillPage<Ui::BestMatchesPageForm>(*page);
+        Ui::BestMatchesPageForm& f = *bestMatchesPage_;
+        VELMORA_BEST_MATCHES_PAGE_ELEMENTS(VELMORA_BIND_ELEMENT)
+    } else if (page == form_->tab_records && !recordsPage_) {
+        recordsPage_ = fillPage<Ui::RecordsPageForm>(*page);
+        Ui::RecordsPageForm& f = *recordsPage_;
+        VELMORA_RECORDS_PAGE_ELEMENTS(VELMORA_BIND_ELEMENT)
+    }
 #undef VELMORA_BIND_ELEMENT
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-// The main window on the desktop: the widgets of resources/main_window.ui and
-// resources/records_page.ui, each bound to the window element of the same name, and the File menu's
-// Save and Quit for the application to connect.
+// The main window on the desktop: the widgets of resources/main_window.ui and of its tabs' pages
+// (resources/best_matches_page.ui, resources/records_page.ui), each bound to the window element of
+// the same name, and the File menu's Save and Quit for the application to connect.
 
 #include "ui/main_window.h"
 
@@ -14,6 +14,7 @@
 class QAction;
 
 namespace Ui {
+class BestMatchesPageForm;
 class MainWindowForm;
 class RecordsPageForm;
 } // namespace Ui
@@ -41,11 +42,12 @@ protected:
 
 private:
     void bindElements(MainWindow& elements);
-    // The Records tab's widgets, bound to their elements, the first time the tab is shown.
-    void makeRecordsPage();
+    // A tab's own widgets, bound to their elements, the first time the tab is shown.
+    void makePage(QWidget* page);
 
     MainWindow& elements_;
     std::unique_ptr<Ui::MainWindowForm> form_;
+    std::unique_ptr<Ui::BestMatchesPageForm> bestMatchesPage_;
     std::unique_ptr<Ui::RecordsPageForm> recordsPage_;
     std::vector<std::unique_ptr<ElementBinding>> bindings_;
     std::function<bool()> closeRequest_;
