@@ -153,6 +153,9 @@ TEST(ShippedReferenceTable, CorrectedAndAddedRowsHoldTheirSourcedValues) {
          "over the limit"},
         {"Marcasite", "3.000-3.000", "4.85-4.91", "6-6.5", "not measurable (opaque)", "Marcasite",
          "over the limit"},
+        // The magnetic ferrite sold as hematite weighs like it but is no mineral of its own.
+        {"Hematine", "3.000-3.000", "4.80-5.00", "5-6", "not measurable (opaque)", "Hematine",
+         "strongly magnetic"},
         {"Dioptase", "1.644-1.709", "3.28-3.36", "5-5", "0.051-0.053", "Dioptase", ""},
         {"Bronzite", "1.663-1.693", "3.25-3.41", "5-6", "0.013-0.014", "Enstatite", ""},
         {"Polymer-impregnated jadeite", "1.652-1.680", "3.04-3.32", "", "", "Jade (pyroxene)", ""},
