@@ -75,9 +75,11 @@ TEST_F(Window, ConnectLightsTheLampAndEnterListsTheStonesForTheReading) {
 TEST(WindowElements, EachIsShownByTheWidgetOfItsName) {
     MainWindow elements;
     qt::MainWindowWidget window(elements);
-    // The Records tab makes its widgets when first shown.
-    window.findChild<QTabWidget*>("resultsTabs")
-        ->setCurrentWidget(window.findChild<QWidget*>("tab_records"));
+    // The Best matches and Records tabs make their widgets when first shown.
+    auto* tabs = window.findChild<QTabWidget*>("resultsTabs");
+    for (const char* page : {"tab_bestMatches", "tab_records"}) {
+        tabs->setCurrentWidget(window.findChild<QWidget*>(page));
+    }
     const auto widgetNamed = [&](const char* name) {
         auto* widget = window.findChild<QWidget*>(name);
         EXPECT_NE(widget, nullptr) << name;
