@@ -66,7 +66,7 @@ AppDelegate::ContainerFactory containerInDataFolder() {
 }
 
 // The bitmaps installed beside the reference table. The icon theme holds the same pictures, but
-// finding them there parses the theme's index, the largest piece of work left after the first paint.
+// finding them there parses the theme's index: the most work left after the first paint.
 QIcon bundledIcon() {
     QIcon icon;
     for (const char* size : {"48", "128"}) {

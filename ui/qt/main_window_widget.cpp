@@ -9,8 +9,8 @@
 #include "ui/qt/pop_up_binding.h"
 #include "ui/qt/table_binding.h"
 #include "ui/qt/text_view_binding.h"
-#include "ui_main_window.h"
 #include "ui_best_matches_page.h"
+#include "ui_main_window.h"
 #include "ui_records_page.h"
 
 #include <QCloseEvent>
