@@ -66,6 +66,7 @@
     ELEMENT(Button, btn_identifySeries)                                                            \
     ELEMENT(TabView, resultsTabs)                                                                  \
     /* Results and detail */                                                                       \
+    ELEMENT(View, lbl_stonesListCaption)                                                           \
     ELEMENT(PopUpButton, btn_stonesList)                                                           \
     ELEMENT(TextField, lbl_stonesCount)                                                            \
     ELEMENT(TableView, tableView,                                                                  \
@@ -74,6 +75,7 @@
     ELEMENT(TextField, lbl_bestMatchesNote)                                                        \
     ELEMENT(TableView, tbl_bestMatches,                                                            \
             std::vector<TableColumn>{{"fitColumn"}, {"candidateColumn"}, {"deviationsColumn"}})    \
+    ELEMENT(View, view_detailPanel)                                                                \
     ELEMENT(TextField, txt_RI)                                                                     \
     ELEMENT(TextField, txt_sg)                                                                     \
     ELEMENT(TextField, txt_hardness)                                                               \
