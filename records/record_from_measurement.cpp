@@ -3,6 +3,7 @@
 #include "data/stones.h"
 #include "records/recorded_series.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace velmora {
@@ -59,8 +60,15 @@ StoneRecord recordFromMeasurement(std::string label, std::chrono::sys_seconds ex
     if (entries.color) {
         record.color = entries.colorName;
     }
+    // A species whose varieties fit unequally is listed on a line per fit; the record names it
+    // once, at the best of them, which comes first.
     for (const BestMatchRow& row : candidates) {
-        record.candidates.push_back(candidateOf(row));
+        RecordedCandidate candidate = candidateOf(row);
+        if (std::ranges::none_of(record.candidates, [&](const RecordedCandidate& kept) {
+                return kept.name == candidate.name;
+            })) {
+            record.candidates.push_back(std::move(candidate));
+        }
     }
     return record;
 }

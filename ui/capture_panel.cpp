@@ -10,7 +10,6 @@ namespace {
 
 // Under the live reading in the reading tab, collapsed in the dictionary.
 constexpr double captureContainerHeight = 184.0;
-constexpr int bestMatchesPage = 1;
 
 std::string stateText(SteadinessState state) {
     switch (state) {

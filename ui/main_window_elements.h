@@ -66,10 +66,12 @@
     ELEMENT(Button, btn_identifySeries)                                                            \
     ELEMENT(TabView, resultsTabs)                                                                  \
     /* Results and detail */                                                                       \
+    ELEMENT(View, lbl_stonesListCaption)                                                           \
     ELEMENT(PopUpButton, btn_stonesList)                                                           \
     ELEMENT(TextField, lbl_stonesCount)                                                            \
     ELEMENT(TableView, tableView,                                                                  \
             std::vector<TableColumn>{{MainWindow::idColumn}, {"titleColumn"}})                     \
+    ELEMENT(View, view_detailPanel)                                                                \
     ELEMENT(TextField, txt_RI)                                                                     \
     ELEMENT(TextField, txt_sg)                                                                     \
     ELEMENT(TextField, txt_hardness)                                                               \

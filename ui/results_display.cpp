@@ -96,4 +96,11 @@ void ViewController::btn_stoneListChange(PopUpButton& sender) {
     tableView.selectRow(static_cast<int>(i));
 }
 
+void ViewController::tabViewDidSelectTabViewItem(TabView& tabView) {
+    const int page = tabView.indexOfSelectedItem();
+    lbl_stonesListCaption.setHidden(page != stonesListedPage);
+    btn_stonesList.setHidden(page != stonesListedPage);
+    view_detailPanel.setHidden(page == recordsPage);
+}
+
 } // namespace velmora

@@ -42,6 +42,7 @@ void ViewController::connectActions() {
     btn_reset.setAction([this](Button& sender) { btn_reset_tap(sender); });
     btn_color.setAction([this](PopUpButton& sender) { btn_onChangeColor_tap(sender); });
     btn_stonesList.setAction([this](PopUpButton& sender) { btn_stoneListChange(sender); });
+    resultsTabs.setAction([this](TabView& sender) { tabViewDidSelectTabViewItem(sender); });
     btn_connected.setAction([this](Button& sender) { btn_connect_tap(sender); });
     btn_disconnected.setAction([this](Button& sender) { btn_disConnect_tap(sender); });
     btn_capture.setAction([this](Button& sender) { btn_capture_tap(sender); });

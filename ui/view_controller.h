@@ -56,6 +56,10 @@ class ViewController final : public TableViewDataSource,
                              private ViewControllerState {
 public:
     static constexpr const char* windowTitle = "Velmora v2.0.1-M-23";
+    // The results' pages, in the order of their tabs.
+    static constexpr int stonesListedPage = 0;
+    static constexpr int bestMatchesPage = 1;
+    static constexpr int recordsPage = 2;
 
     // Connects the window's controls to their actions; the fields take their starting values.
     ViewController(MainWindow& window, ViewControllerEnvironment environment);
@@ -102,6 +106,9 @@ public:
                                            int row) override;
     double tableViewHeightOfRow(TableView& table, int row) override;
     bool tableViewShouldSelectRow(TableView& table, int row) override;
+    // The Stone pop-up names only the listed stones, so it shows beside their page alone; the
+    // reference stone's detail has no part in the records, which take its width.
+    void tabViewDidSelectTabViewItem(TabView& tabView);
 
     // Best matches (best_matches_form.cpp): ranked anew on every Search and Enter, and on every
     // change of the view's own inputs (the high R.I., the over-the-limit switch, the weights).

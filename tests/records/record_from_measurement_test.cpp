@@ -81,19 +81,37 @@ TEST(RecordFromMeasurement, KeepsOnlyTheTickedReadableEntries) {
     }
 }
 
-TEST(RecordFromMeasurement, KeepsTheCandidatesAsListedWithTheirNumbersAndFits) {
+TEST(RecordFromMeasurement, KeepsEachCandidateOnceWithItsNumberAndBestFit) {
     Stones quartz;
     quartz.StoneID = "2";
-    const std::vector<BestMatchRow> rows = {
-        {&quartz, "100%", "Quartz\nAmethyst, Citrine", "Fits every reading", true},
-        {nullptr, "7%", "Glass", "R.I. 0.004 above", false},
+    Stones roseQuartz;
+    roseQuartz.StoneID = "9";
+    const BestMatchRow quartzRow{&quartz, "100%", "Quartz\nAmethyst, Citrine", "", true};
+    const BestMatchRow glass{nullptr, "7%", "Glass", "R.I. 0.004 above", false};
+    const BestMatchRow roseRow{&roseQuartz, "14%", "Quartz\nRose quartz", "", false};
+    const BestMatchRow garnet{nullptr, "61%", "Garnet\nPyrope", "", false};
+    const BestMatchRow pyralspite{nullptr, "40%", "Garnet (pyralspite)", "", false};
+    const struct {
+        const char* name;
+        std::vector<BestMatchRow> rows;
+        std::string kept; // number:name:fit, a candidate a line
+    } cases[] = {
+        {"as listed", {quartzRow, glass}, "2:Quartz:100 :Glass:7 "},
+        {"a species at two fits", {quartzRow, glass, roseRow}, "2:Quartz:100 :Glass:7 "},
+        {"names that only begin alike",
+         {garnet, pyralspite},
+         ":Garnet:61 :Garnet (pyralspite):40 "},
+        {"none", {}, ""},
     };
-    const StoneRecord r = recordFromMeasurement("x", noon, RotationSeries(), {}, {}, rows);
-    ASSERT_EQ(r.candidates.size(), 2u);
-    EXPECT_EQ(r.candidates[0].number, "2");
-    EXPECT_EQ(r.candidates[0].name, "Quartz");
-    EXPECT_EQ(r.candidates[1].number, "");
-    EXPECT_EQ(r.candidates[1].fit, 7);
+    for (const auto& c : cases) {
+        const StoneRecord r = recordFromMeasurement("x", noon, RotationSeries(), {}, {}, c.rows);
+        std::string kept;
+        for (const RecordedCandidate& candidate : r.candidates) {
+            kept +=
+                candidate.number + ":" + candidate.name + ":" + std::to_string(candidate.fit) + " ";
+        }
+        EXPECT_EQ(kept, c.kept) << c.name;
+    }
 }
 
 } // namespace
