@@ -53,11 +53,5 @@ TEST(StonesCommand, UsageErrorsExitTwo) {
     EXPECT_EQ(runCli({"--help"}).status, 0);
 }
 
-TEST(StonesCommand, TheBundledReferenceSetLoads) {
-    const auto r = runCli({"stones"});
-    EXPECT_EQ(r.status, 0) << r.out;
-    EXPECT_GE(std::count(r.out.begin(), r.out.end(), '\n'), 300);
-}
-
 } // namespace
 } // namespace velmora::test

@@ -53,22 +53,6 @@ bool anyCriterionOn(const ViewControllerState& s) {
     return s.isRIState || s.isSGState || s.isHardnessState || s.isNameState || s.isColorState;
 }
 
-TEST(Search, ReadsTheRiEntryInTheUsersNotationAndMatchesItAgainstTheRanges) {
-    Dictionary comma(",");
-    comma.enter(comma.window.check_RI, comma.window.txt_leftRIReading, "1,544");
-    comma.click(comma.window.btn_search);
-    EXPECT_EQ(comma.tableRows(), (Rows{{"2", "Amethyst"}, {"1", "Quartz"}}));
-    EXPECT_EQ(comma.window.txt_RI.text(), "1,544-1,553");
-    EXPECT_TRUE(comma.alerts().empty());
-
-    Dictionary point;
-    point.click(point.window.check_RI);
-    point.window.txt_leftRIReading.setText("1,544"); // past the entry checks, as Enter sets it
-    point.click(point.window.btn_search);
-    EXPECT_EQ(point.alerts(), Texts{"Please insert number only!"});
-    EXPECT_EQ(point.window.txt_leftRIReading.text(), "");
-}
-
 // The order of the checks is the search's own; the window empties the entry it names.
 TEST(Search, AnInvalidNumberEmptiesOnlyItsEntryAndLeavesTheListAsItWas) {
     Dictionary h;
