@@ -27,9 +27,6 @@ struct Bench : WindowHarness {
         }
         return names;
     }
-    std::string cell(int column, int row) {
-        return cellText(window.tbl_bestMatches, column, row).value_or("?");
-    }
     std::string note() const { return window.lbl_bestMatchesNote.text(); }
     void rubyReadings() {
         click(window.check_RI);
@@ -51,12 +48,9 @@ TEST(BestMatches, RankOnSearchAndAnewAsTheirOwnEntriesChange) {
 
     Bench ruby;
     ruby.rubyReadings();
-    EXPECT_EQ(ruby.candidates().front(), "Corundum");
-    EXPECT_EQ(ruby.cell(0, 0), "100%");
-    EXPECT_EQ(ruby.cell(1, 0), "Corundum\nPink sapphire, Ruby");
-    EXPECT_EQ(ruby.cell(2, 0), "Fits every reading");
-    // Once something fits, the stones that do not are left out: Almandine's range starts 0.013
-    // above the low reading, and a spread of 0.008 is no singly refractive stone's.
+    // What a row says is the ranking's own. Once something fits, the stones that do not are left
+    // out: Almandine's range starts 0.013 above the low reading, and a spread of 0.008 is no
+    // singly refractive stone's.
     EXPECT_EQ(ruby.candidates(), Texts{"Corundum"});
     EXPECT_TRUE(b.alerts().empty());
     EXPECT_TRUE(ruby.alerts().empty());

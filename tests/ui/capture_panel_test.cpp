@@ -103,34 +103,16 @@ TEST(CapturePanel, ASeriesGivesLowHighBirefringenceAndTheVerdict) {
     }
 }
 
-TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTabAndNotWhileTyping) {
-    const struct {
-        const char* where;
-        bool dictionary;
-        bool typing;
-        bool captured;
-    } cases[] = {
-        {"reading tab", false, false, true},
-        {"typing the S.G.", false, true, false},
-        {"dictionary", true, false, false},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.where);
-        Bench b;
-        if (c.dictionary) {
-            b.click(b.window.bvtn_dictionary);
-        }
-        b.hold("1.624");
-        if (c.typing) {
-            b.click(b.window.btn_enter);
-            b.click(b.window.check_sg);
-            b.type(b.window.txt_leftSG, "2.6");
-            ASSERT_EQ(b.window.firstResponder(), &b.window.txt_leftSG);
-        }
-        EXPECT_EQ(b.window.performKeyEquivalent(" "), c.captured);
-        b.runQueued();
-        EXPECT_EQ(b.window.lbl_seriesValues.text(), c.captured ? "1.624" : "");
-    }
+// Not while an entry is typed in either: the widgets' own test presses the keys.
+TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTab) {
+    Bench b;
+    b.click(b.window.bvtn_dictionary);
+    b.hold("1.624");
+    EXPECT_FALSE(b.window.performKeyEquivalent(" "));
+    b.click(b.window.btn_RIReading);
+    EXPECT_TRUE(b.window.performKeyEquivalent(" "));
+    b.runQueued();
+    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.624");
 }
 
 TEST(CapturePanel, NewStoneStartsTheNextSeries) {
