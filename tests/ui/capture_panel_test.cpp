@@ -115,14 +115,6 @@ TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTab) {
     EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.624");
 }
 
-TEST(CapturePanel, NewStoneStartsTheNextSeries) {
-    Bench b;
-    b.capturePositions({"1.624", "1.644"});
-    b.click(b.window.btn_newStone);
-    EXPECT_EQ(b.series(), (Texts{"", "-", "-", "-", "no reading captured"}));
-    EXPECT_FALSE(b.window.btn_identifySeries.isEnabled());
-}
-
 TEST(CapturePanel, AutomaticCaptureTakesEverySteadyReadingWhileTicked) {
     Bench b;
     b.hold("1.624");
@@ -137,7 +129,7 @@ TEST(CapturePanel, AutomaticCaptureTakesEverySteadyReadingWhileTicked) {
     EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.644");
 }
 
-TEST(CapturePanel, IdentifyFromSeriesRanksTheLowAndHighInBestMatches) {
+TEST(CapturePanel, IdentifyFromSeriesRanksTheLowAndHighAndNewStoneStartsTheNextSeries) {
     Bench b;
     b.capturePositions({"1.631", "1.624", "1.644"});
     b.click(b.window.btn_identifySeries);
@@ -145,6 +137,10 @@ TEST(CapturePanel, IdentifyFromSeriesRanksTheLowAndHighInBestMatches) {
     EXPECT_EQ(b.window.txt_leftRIHigh.text(), "1.644");
     const std::string best = cellText(b.window.tbl_bestMatches, 1, 0).value_or("");
     EXPECT_EQ(best.substr(0, best.find('\n')), "Tourmaline");
+
+    b.click(b.window.btn_newStone);
+    EXPECT_EQ(b.series(), (Texts{"", "-", "-", "-", "no reading captured"}));
+    EXPECT_FALSE(b.window.btn_identifySeries.isEnabled());
 }
 
 TEST(CapturePanel, TheLampAndTheChartFollowTheReadingsTheBandAndTheCaptures) {

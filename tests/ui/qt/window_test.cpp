@@ -14,21 +14,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Window = ShellTest;
 
-TEST_F(Window, ASearchTypedAndClickedListsWhatFitsAndALockedEntryTakesNoTyping) {
-    open();
-    click("bvtn_dictionary");
-    click("check_hardness");
-    type("txt_leftHardness", "9");
-    click("btn_search");
-    EXPECT_THAT(listedStones(), ElementsAre("Ruby"));
-    EXPECT_EQ(text("txt_sg"), "3.97-4.05");
-    EXPECT_THAT(alerts.alerts, IsEmpty());
-
-    click("check_hardness");
-    type("txt_leftHardness", "7");
-    EXPECT_EQ(text("txt_leftHardness"), "");
-}
-
 TEST_F(Window, LeavingAnEntryOrPressingReturnEndsItsEditingWithTheCheck) {
     open();
     click("bvtn_dictionary");
