@@ -62,12 +62,12 @@ public:
             for (const auto& device : devices) {
                 watcher->plug(device);
             }
-            watcher->later([bus = watcher.get(), script, this] {
+            watcher->script = [bus = watcher.get(), script, this] {
                 if (script) {
                     script(*bus);
                 }
                 stop_->request();
-            });
+            };
             return watcher;
         };
     }
