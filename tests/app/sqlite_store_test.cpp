@@ -151,6 +151,25 @@ TEST(SqliteStore, AddedRecordsAreChangesUntilSavedComeBackWholeNewestFirstAndCha
     EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading WHERE record_id = " + removed), "0");
 }
 
+// Another program's rule refuses the second candidate, after the record and its readings went in.
+TEST(SqliteStore, ARecordThatCannotGoInWholeLeavesNothingBehind) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    SqliteStore store(file, dataModel);
+    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    sql(file, "CREATE TRIGGER refuse BEFORE INSERT ON candidate WHEN NEW.name = 'Iolite' "
+              "BEGIN SELECT RAISE(ABORT, 'refused'); END;");
+    StoneRecord kept = fullRecord();
+    kept.candidates.pop_back();
+    StoneRecord refused = fullRecord();
+    EXPECT_EQ(store.add(kept), std::nullopt);
+    EXPECT_THAT(store.add(refused), Optional(HasSubstr("refused")));
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM stone_record"), "1");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading"), "3");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM candidate"), "1");
+}
+
 TEST(SqliteStore, BringsAStoreOfTheReleasedVersion1ToTheLatestKeepingItsData) {
     TempDir dir;
     const auto file = dir.path() / "Velmora.sqlite";
