@@ -42,7 +42,7 @@ public:
             }
             std::vector<std::vector<SerialDevice>> snapshots;
             std::size_t endAtPoll;
-            cli::StopSignal** stop; // set once the watch begins
+            cli::StopSignal** stop; // the platform's, set once the watch begins
             std::size_t polls = 0;
         };
         cli::watchPlatform().serialPorts = [this, snapshots, endAtPoll] {
