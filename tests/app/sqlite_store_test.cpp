@@ -96,7 +96,7 @@ TEST(SqliteStore, IsCreatedWithItsFolderOnFirstUseInWalModeAtTheLatestVersion) {
     EXPECT_EQ(sql(file, "SELECT value FROM metadata WHERE key = 'model'"), "Velmora");
 }
 
-TEST(SqliteStore, AddedRecordsAreChangesUntilSavedAndComeBackWholeNewestFirst) {
+TEST(SqliteStore, AddedRecordsAreChangesUntilSavedComeBackWholeNewestFirstAndChangeAsTold) {
     TempDir dir;
     const auto file = dir.path() / "Velmora.sqlite";
     StoneRecord older = fullRecord();
@@ -130,41 +130,44 @@ TEST(SqliteStore, AddedRecordsAreChangesUntilSavedAndComeBackWholeNewestFirst) {
     expectSame(*found, older);
     EXPECT_EQ(store.find(older.id + 100, found), std::nullopt);
     EXPECT_FALSE(found);
-}
 
-TEST(SqliteStore, EditsOnlyNotesAndConclusionAndRemovesARecordWhole) {
-    TempDir dir;
-    const auto file = dir.path() / "Velmora.sqlite";
-    SqliteStore store(file, dataModel);
-    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
-    StoneRecord kept = fullRecord();
-    StoneRecord removed = fullRecord();
-    ASSERT_EQ(store.add(kept), std::nullopt);
-    ASSERT_EQ(store.add(removed), std::nullopt);
-    ASSERT_EQ(store.save(), std::nullopt);
-
-    StoneRecord edited = kept;
+    // Only the notes and the conclusion are edited; a removed record goes whole.
+    StoneRecord edited = older;
     edited.notes = "inclusions: needles";
     edited.conclusion = "Citrine";
     edited.label = "not edited";
     edited.candidates.clear();
     EXPECT_EQ(store.update(edited), std::nullopt);
-    EXPECT_EQ(store.remove(removed.id), std::nullopt);
+    EXPECT_EQ(store.remove(sameTimeLater.id), std::nullopt);
     EXPECT_TRUE(store.hasChanges());
     ASSERT_EQ(store.save(), std::nullopt);
-
-    kept.notes = edited.notes;
-    kept.conclusion = edited.conclusion;
-    std::vector<StoneRecord> listed;
+    older.notes = edited.notes;
+    older.conclusion = edited.conclusion;
     ASSERT_EQ(store.list(listed), std::nullopt);
-    ASSERT_EQ(listed.size(), 1u);
-    expectSame(listed[0], kept);
-    EXPECT_EQ(
-        sql(file, "SELECT count(*) FROM candidate WHERE record_id = " + std::to_string(removed.id)),
-        "0");
-    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading WHERE record_id = " +
-                            std::to_string(removed.id)),
-              "0");
+    ASSERT_EQ(listed.size(), 2u);
+    expectSame(listed[1], older);
+    const std::string removed = std::to_string(sameTimeLater.id);
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM candidate WHERE record_id = " + removed), "0");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading WHERE record_id = " + removed), "0");
+}
+
+// Another program's rule refuses the second candidate, after the record and its readings went in.
+TEST(SqliteStore, ARecordThatCannotGoInWholeLeavesNothingBehind) {
+    TempDir dir;
+    const auto file = dir.path() / "Velmora.sqlite";
+    SqliteStore store(file, dataModel);
+    ASSERT_EQ(store.loadPersistentStores(), std::nullopt);
+    sql(file, "CREATE TRIGGER refuse BEFORE INSERT ON candidate WHEN NEW.name = 'Iolite' "
+              "BEGIN SELECT RAISE(ABORT, 'refused'); END;");
+    StoneRecord kept = fullRecord();
+    kept.candidates.pop_back();
+    StoneRecord refused = fullRecord();
+    EXPECT_EQ(store.add(kept), std::nullopt);
+    EXPECT_THAT(store.add(refused), Optional(HasSubstr("refused")));
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM stone_record"), "1");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM ri_reading"), "3");
+    EXPECT_EQ(sql(file, "SELECT count(*) FROM candidate"), "1");
 }
 
 TEST(SqliteStore, BringsAStoreOfTheReleasedVersion1ToTheLatestKeepingItsData) {

@@ -71,34 +71,28 @@ TEST(RecordsCommand, RefusesWhatTheWindowWouldAndKeepsNothing) {
 }
 
 TEST(RecordsCommand, TheDefaultStoreIsWhereTheWindowKeepsIt) {
-    const struct {
-        const char* dataHome;
-        const char* home;
-        const char* path;
-    } cases[] = {
-        {"/data", "/home/g", "/data/Velmora/Velmora.sqlite"},
-        {"", "/home/g", "/home/g/.local/share/Velmora/Velmora.sqlite"},
-        {nullptr, "/home/g", "/home/g/.local/share/Velmora/Velmora.sqlite"},
+    using Variable = std::optional<std::string>;
+    const auto get = [](const char* name) {
+        const char* value = std::getenv(name);
+        return value ? Variable(value) : std::nullopt;
     };
-    const std::string savedHome = std::getenv("HOME") ? std::getenv("HOME") : "";
-    const char* dataHome = std::getenv("XDG_DATA_HOME");
-    const std::optional<std::string> savedDataHome =
-        dataHome ? std::optional<std::string>(dataHome) : std::nullopt;
-    for (const auto& c : cases) {
-        if (c.dataHome) {
-            setenv("XDG_DATA_HOME", c.dataHome, 1);
-        } else {
-            unsetenv("XDG_DATA_HOME");
-        }
-        setenv("HOME", c.home, 1);
-        EXPECT_EQ(cli::applicationStorePath(), c.path);
+    const auto set = [](const char* name, const Variable& value) {
+        value ? setenv(name, value->c_str(), 1) : unsetenv(name);
+    };
+    const Variable home = get("HOME");
+    const Variable dataHome = get("XDG_DATA_HOME");
+    const std::pair<Variable, const char*> cases[] = {
+        {"/data", "/data/Velmora/Velmora.sqlite"},
+        {"", "/home/g/.local/share/Velmora/Velmora.sqlite"},
+        {std::nullopt, "/home/g/.local/share/Velmora/Velmora.sqlite"},
+    };
+    for (const auto& [xdgDataHome, path] : cases) {
+        set("XDG_DATA_HOME", xdgDataHome);
+        set("HOME", "/home/g");
+        EXPECT_EQ(cli::applicationStorePath(), path);
     }
-    setenv("HOME", savedHome.c_str(), 1);
-    if (savedDataHome) {
-        setenv("XDG_DATA_HOME", savedDataHome->c_str(), 1);
-    } else {
-        unsetenv("XDG_DATA_HOME");
-    }
+    set("HOME", home);
+    set("XDG_DATA_HOME", dataHome);
 }
 
 } // namespace

@@ -45,25 +45,9 @@ TEST(LoadReferenceSet, PublishesTheSortedSetTwiceAsIndependentLists) {
     EXPECT_TRUE(headerOnly.arr_stones.empty() && headerOnly.arr_stonesGlobal.empty());
 }
 
-TEST(LoadReferenceSet, AFileItCannotReadWritesTheReasonAndLeavesTheListsAlone) {
-    test::TempDir dir;
-    const std::pair<std::optional<std::filesystem::path>, std::string> unreadable[] = {
-        {dir.path() / "missing.csv", "No such file"},
-        {dir.path(), "folder"},
-        {std::nullopt, "AllStoneNew.csv"},
-    };
-    for (const auto& [path, reason] : unreadable) {
-        Lists lists;
-        EXPECT_FALSE(lists.load(path));
-        EXPECT_TRUE(lists.arr_stones.empty() && lists.arr_stonesGlobal.empty());
-        EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
-        EXPECT_EQ(lists.out.str().find('\n'), lists.out.str().size() - 1);
-    }
-}
-
-// A path given on the command line may name anything; the answer comes at once, in a sentence
-// that names the limit, and the lists stay as they were.
-TEST(LoadReferenceSet, RefusesWhatIsNoTableOfAReasonableSize) {
+// A path given on the command line may name anything; the answer comes at once, in one line that
+// names the reason or the limit, and the lists stay as they were.
+TEST(LoadReferenceSet, RefusesWhatItCannotReadOrIsNoTableOfAReasonableSize) {
     test::TempDir dir;
     const auto sparse = dir.write("sparse.csv", "");
     std::filesystem::resize_file(sparse, referenceFileLimit + 1);
@@ -72,15 +56,19 @@ TEST(LoadReferenceSet, RefusesWhatIsNoTableOfAReasonableSize) {
     for (std::size_t i = 0; i <= referenceStoneLimit; ++i) {
         manyStones += ",,,,,,,,,,,,,,,,1,,,,,,,,,,,\n";
     }
-    const std::pair<std::filesystem::path, std::string> refused[] = {
+    const std::pair<std::optional<std::filesystem::path>, std::string> refused[] = {
+        {dir.path() / "missing.csv", "No such file"},
+        {dir.path(), "folder"},
+        {std::nullopt, "AllStoneNew.csv"},
         {sparse, "larger than 64 MiB, the most a reference table may hold"},
         {dir.write("many.csv", manyStones), "more than 200000 stones"},
     };
     for (const auto& [path, reason] : refused) {
         Lists lists;
         EXPECT_FALSE(lists.load(path));
-        EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
         EXPECT_TRUE(lists.arr_stones.empty() && lists.arr_stonesGlobal.empty());
+        EXPECT_NE(lists.out.str().find(reason), std::string::npos) << lists.out.str();
+        EXPECT_EQ(lists.out.str().find('\n'), lists.out.str().size() - 1);
     }
 }
 

@@ -5,19 +5,6 @@
 namespace velmora::test {
 namespace {
 
-TEST(DecodeReading, ThousandthsBecomeThreeFractionDigitsAfterAFullStop) {
-    struct Case {
-        std::uint8_t low, high;
-        const char* text;
-    };
-    for (const auto& c :
-         {Case{0x04, 0x06, "1.540"}, Case{0xED, 0x03, "1.005"}, Case{0xE7, 0x03, "0.999"},
-          Case{0x00, 0x00, "0.000"}, Case{0x0A, 0x00, "0.010"}, Case{0x10, 0x27, "10.000"},
-          Case{0xFF, 0xFF, "65.535"}}) {
-        EXPECT_EQ(decodeReading(c.low, c.high), c.text) << c.text;
-    }
-}
-
 TEST(FormatReadingForDisplay, ThreeFractionDigitsWithTheLocalesSeparatorsOrNothing) {
     const FixedLocale english(".");
     const FixedLocale german(",");

@@ -47,12 +47,6 @@ TEST(ReadRegularFile, ReadsAFileUpToTheLimitWhole) {
     EXPECT_EQ(readRegularFile(dir.write("empty", ""), limit, "table").bytes, "");
 }
 
-TEST(SizeText, NamesTheLargestWholeUnit) {
-    EXPECT_EQ(sizeText(std::size_t{64} << 20), "64 MiB");
-    EXPECT_EQ(sizeText(3072), "3 KiB");
-    EXPECT_EQ(sizeText(1536), "1536 bytes");
-}
-
 TEST(Printable, WritesOutControlCharactersAndBrokenBytes) {
     const std::pair<std::string, std::string> cases[] = {
         {"Rock crystal", "Rock crystal"},

@@ -53,18 +53,5 @@ TEST(StoneRecord, TimesReadBackAsWrittenAndNothingElseReads) {
     }
 }
 
-TEST(RecordedSeries, KeepsTheSeriesAndWritesTheVerdictWithAPoint) {
-    RotationSeries series;
-    EXPECT_EQ(recordedSeries(series).birefringence, std::nullopt);
-    series.add(1.544);
-    series.add(1.553);
-    const RecordedSeries kept = recordedSeries(series);
-    EXPECT_EQ(kept.values, (std::vector<double>{1.544, 1.553}));
-    EXPECT_EQ(kept.low, 1.544);
-    EXPECT_EQ(kept.high, 1.553);
-    EXPECT_EQ(kept.birefringence, 0.009);
-    EXPECT_EQ(kept.verdict, "doubly refractive, birefringence 0.009");
-}
-
 } // namespace
 } // namespace velmora::test

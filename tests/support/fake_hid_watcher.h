@@ -2,8 +2,8 @@
 
 // Scripted HID devices for the HID watchers. The test plugs and unplugs devices and has them send
 // input reports. run() first reports the matching devices already plugged in, then plays the
-// test's later() steps in order, then waits for stop(); from the start of run() on, plugging,
-// unplugging and sending are delivered at once.
+// test's script, then waits for stop(); from the start of run() on, plugging, unplugging and
+// sending are delivered at once.
 
 #include "device/hid_watcher.h"
 
@@ -48,8 +48,8 @@ public:
                 attached_(device);
             }
         }
-        for (const auto& step : steps_) {
-            step();
+        if (script) {
+            script();
         }
         stopped_.wait(false);
         running_ = false;
@@ -85,7 +85,7 @@ public:
             }
         }
     }
-    void later(std::function<void()> step) { steps_.push_back(std::move(step)); }
+    std::function<void()> script; // played once the devices present are reported
 
 private:
     struct Device final : WatchedHidDevice {
@@ -131,7 +131,6 @@ private:
     DeviceCallback removed_;
     std::vector<std::shared_ptr<Device>> plugged_; // in plugging order
     bool running_ = false;
-    std::vector<std::function<void()>> steps_;
     std::atomic<bool> stopped_{false};
 };
 

@@ -10,20 +10,14 @@ namespace velmora::test {
 
 class ScriptedRecordsDialogs final : public RecordsDialogs {
 public:
-    std::optional<std::string> askLabel() override {
-        ++labelsAsked;
-        return next(labels);
-    }
+    std::optional<std::string> askLabel() override { return next(labels); }
     std::optional<std::filesystem::path> chooseSaveFile(const std::string&,
-                                                        const std::string& suggestedName) override {
-        suggestedNames.push_back(suggestedName);
+                                                        const std::string&) override {
         return next(files);
     }
 
     std::deque<std::optional<std::string>> labels; // nothing: cancelled
     std::deque<std::optional<std::filesystem::path>> files;
-    int labelsAsked = 0;
-    std::vector<std::string> suggestedNames;
 
 private:
     template <class T> static std::optional<T> next(std::deque<std::optional<T>>& script) {

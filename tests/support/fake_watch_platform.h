@@ -6,8 +6,8 @@
 #include "app/cli/watch_platform.h"
 #include "tests/support/fake_hid.h"
 #include "tests/support/fake_hid_watcher.h"
-#include "tests/support/fake_serial_port_source.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <vector>
@@ -26,14 +26,31 @@ public:
     FakeWatchPlatform(const FakeWatchPlatform&) = delete;
     FakeWatchPlatform& operator=(const FakeWatchPlatform&) = delete;
 
-    // The serial ports take these snapshots, and the watch ends at the poll numbered endAtPoll.
+    // Each poll of the serial ports gives the next snapshot, the last one again once they are
+    // done; the watch ends at the poll numbered endAtPoll.
     void serialSnapshots(std::vector<std::vector<SerialDevice>> snapshots, std::size_t endAtPoll) {
-        cli::watchPlatform().serialPorts = [this, snapshots, endAtPoll] {
-            return std::make_unique<FakeSerialPortSource>(snapshots, [this, endAtPoll](auto poll) {
-                if (poll == endAtPoll) {
-                    stop_->request();
+        struct Ports final : SerialPortSource {
+            std::vector<SerialDevice> availablePorts() override {
+                ++polls;
+                auto snapshot = snapshots.empty()
+                                    ? std::vector<SerialDevice>{}
+                                    : snapshots[std::min(polls, snapshots.size()) - 1];
+                if (polls == endAtPoll) {
+                    (*stop)->request();
                 }
-            });
+                return snapshot;
+            }
+            std::vector<std::vector<SerialDevice>> snapshots;
+            std::size_t endAtPoll;
+            cli::StopSignal** stop; // the platform's, set once the watch begins
+            std::size_t polls = 0;
+        };
+        cli::watchPlatform().serialPorts = [this, snapshots, endAtPoll] {
+            auto ports = std::make_unique<Ports>();
+            ports->snapshots = snapshots;
+            ports->endAtPoll = endAtPoll;
+            ports->stop = &stop_;
+            return ports;
         };
     }
 
@@ -45,12 +62,12 @@ public:
             for (const auto& device : devices) {
                 watcher->plug(device);
             }
-            watcher->later([bus = watcher.get(), script, this] {
+            watcher->script = [bus = watcher.get(), script, this] {
                 if (script) {
                     script(*bus);
                 }
                 stop_->request();
-            });
+            };
             return watcher;
         };
     }

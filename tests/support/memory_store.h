@@ -13,7 +13,6 @@ namespace velmora::test {
 
 struct MemoryRecordsSetup {
     std::optional<std::string> addError = std::nullopt;
-    std::optional<std::string> listError = std::nullopt;
     std::optional<std::string> updateError = std::nullopt;
     std::optional<std::string> removeError = std::nullopt;
 };
@@ -32,9 +31,6 @@ public:
         return std::nullopt;
     }
     std::optional<std::string> list(std::vector<StoneRecord>& records) const override {
-        if (fail.listError) {
-            return fail.listError;
-        }
         records = kept;
         return std::nullopt;
     }

@@ -34,13 +34,14 @@ public:
         return answer;
     }
 
-    // The informative texts, in the order shown.
-    std::vector<std::string> informativeTexts() const {
-        std::vector<std::string> texts;
+    // The informative texts, or another of the alerts' texts, in the order shown.
+    std::vector<std::string>
+    texts(std::string RecordedAlert::*text = &RecordedAlert::informative) const {
+        std::vector<std::string> shown;
         for (const auto& alert : alerts) {
-            texts.push_back(alert.informative);
+            shown.push_back(alert.*text);
         }
-        return texts;
+        return shown;
     }
 
     std::vector<RecordedAlert> alerts;

@@ -10,7 +10,6 @@
 #include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/reference_rows.h"
-#include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 #include "ui/main_window.h"
 #include "ui/screen_presenter.h"
@@ -34,23 +33,18 @@ struct WindowSetup {
     std::string decimalSeparator = ".";
     // False: the controller is made but its view not loaded.
     bool loadView = true;
-    // Where the instrument is: nothing, a link that only counts Connect and Disconnect; else a
-    // real session over these HID managers (a fake, or the simulated instrument).
+    // Where the instrument is: nothing, none at all; else a real session over these HID managers
+    // (a fake, or the simulated instrument).
     std::optional<HIDDeviceConnector::ManagerFactory> instrumentManagers = std::nullopt;
 };
 
-// Which modal screens the window asked for, in order.
-struct RecordingScreens final : ScreenPresenter {
-    void presentTutorialScreen() override { presented.push_back("tutorial"); }
-    void presentContactScreen() override { presented.push_back("contact"); }
-    std::vector<std::string> presented;
-};
-
-struct CountingInstrumentLink final : InstrumentLink {
-    void connectDataToDevice() override { ++connects; }
-    void disconnectDataToDevice() override { ++disconnects; }
-    int connects = 0;
-    int disconnects = 0;
+// The screens and the instrument where the window's tests do not look: they open and connect
+// nothing.
+struct NoScreensNoInstrument final : ScreenPresenter, InstrumentLink {
+    void presentTutorialScreen() override {}
+    void presentContactScreen() override {}
+    void connectDataToDevice() override {}
+    void disconnectDataToDevice() override {}
 };
 
 class WindowHarness {
@@ -66,8 +60,8 @@ public:
                               : setup.rows        ? std::optional(dir.write("AllStoneNew.csv",
                                                                             referenceText(*setup.rows)))
                                                   : std::nullopt,
-                              standardOutput, screens,
-                              connector ? static_cast<InstrumentLink&>(*connector) : instrument}) {
+                              standardOutput, elsewhere,
+                              connector ? static_cast<InstrumentLink&>(*connector) : elsewhere}) {
         if (setup.loadView) {
             controller.viewDidLoad();
             runQueued();
@@ -80,16 +74,6 @@ public:
     void type(TextField& entry, std::string_view text) {
         if (window.makeFirstResponder(&entry)) {
             window.insertText(text);
-        }
-        runQueued();
-    }
-    // Backspace at the end of the edited entry, whose text is ASCII here.
-    void deleteBackward() {
-        if (TextField* field = window.firstResponder(); field && !field->text().empty()) {
-            field->setText(field->text().substr(0, field->text().size() - 1));
-            if (TextFieldDelegate* delegate = field->delegate()) {
-                delegate->controlTextDidChange(field);
-            }
         }
         runQueued();
     }
@@ -112,7 +96,7 @@ public:
     void runQueued() { runLoop.runPending(); }
 
     const ViewControllerState& state() const { return controller.state(); }
-    std::vector<std::string> alerts() const { return alertPresenter.informativeTexts(); }
+    std::vector<std::string> alerts() const { return alertPresenter.texts(); }
     // What the table shows: the number and the name of each row.
     std::vector<std::pair<std::string, std::string>> tableRows() {
         std::vector<std::pair<std::string, std::string>> rows;
@@ -127,10 +111,9 @@ public:
     ManualRunLoop runLoop;
     NotificationCenter notificationCenter;
     RecordingAlertPresenter alertPresenter;
-    SettableLocale locale;
+    FixedLocale locale;
     std::ostringstream standardOutput;
-    RecordingScreens screens;
-    CountingInstrumentLink instrument;
+    NoScreensNoInstrument elsewhere;
     RecordingLog log;
     std::unique_ptr<HIDDeviceConnector> connector; // with WindowSetup::instrumentManagers
     MainWindow window;

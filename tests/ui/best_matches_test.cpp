@@ -27,9 +27,6 @@ struct Bench : WindowHarness {
         }
         return names;
     }
-    std::string cell(int column, int row) {
-        return cellText(window.tbl_bestMatches, column, row).value_or("?");
-    }
     std::string note() const { return window.lbl_bestMatchesNote.text(); }
     void rubyReadings() {
         click(window.check_RI);
@@ -51,12 +48,9 @@ TEST(BestMatches, RankOnSearchAndAnewAsTheirOwnEntriesChange) {
 
     Bench ruby;
     ruby.rubyReadings();
-    EXPECT_EQ(ruby.candidates().front(), "Corundum");
-    EXPECT_EQ(ruby.cell(0, 0), "100%");
-    EXPECT_EQ(ruby.cell(1, 0), "Corundum\nPink sapphire, Ruby");
-    EXPECT_EQ(ruby.cell(2, 0), "Fits every reading");
-    // Once something fits, the stones that do not are left out: Almandine's range starts 0.013
-    // above the low reading, and a spread of 0.008 is no singly refractive stone's.
+    // What a row says is the ranking's own. Once something fits, the stones that do not are left
+    // out: Almandine's range starts 0.013 above the low reading, and a spread of 0.008 is no
+    // singly refractive stone's.
     EXPECT_EQ(ruby.candidates(), Texts{"Corundum"});
     EXPECT_TRUE(b.alerts().empty());
     EXPECT_TRUE(ruby.alerts().empty());
@@ -96,27 +90,17 @@ TEST(BestMatches, WeighingFillsTheSgEntryOrNotesTheImpossibleWeights) {
     b.type(b.window.txt_weightWater, "1.350");
     EXPECT_EQ(b.window.txt_leftSG.text(), "4.0");
     EXPECT_EQ(b.candidates().front(), "Corundum");
-    b.type(b.window.txt_weightAir, ""); // into the entry, to empty it
-    for (int i = 0; i < 5; ++i) {
-        b.deleteBackward();
-    }
-    b.type(b.window.txt_weightAir, "1");
-    EXPECT_EQ(b.note(), "The weight in water must be below the weight in air: water buoys the "
-                        "stone up.");
-    b.click(b.window.check_sg);
-    EXPECT_EQ(b.window.txt_weightWater.text(), "");
-    EXPECT_FALSE(b.window.txt_weightWater.isEnabled());
-    EXPECT_TRUE(b.alerts().empty());
-}
 
-TEST(BestMatches, EnterListsThemFromTheLiveReadingAndARotationSeriesGivesBothReadings) {
-    WindowHarness h({.rows = reference});
-    h.controller.enterRotationReadings(1.762, 1.770);
-    EXPECT_EQ(h.window.txt_leftRIReading.text(), "1.762");
-    EXPECT_EQ(h.window.txt_leftRIHigh.text(), "1.770");
-    EXPECT_EQ(h.window.check_RI.state(), ButtonState::On);
-    EXPECT_EQ(cellText(h.window.tbl_bestMatches, 1, 0).value_or("").substr(0, 8), "Corundum");
-    EXPECT_TRUE(h.alerts().empty());
+    Bench c;
+    c.click(c.window.check_sg);
+    c.type(c.window.txt_weightAir, "1");
+    c.type(c.window.txt_weightWater, "1.350");
+    EXPECT_EQ(c.note(), "The weight in water must be below the weight in air: water buoys the "
+                        "stone up.");
+    c.click(c.window.check_sg);
+    EXPECT_EQ(c.window.txt_weightWater.text(), "");
+    EXPECT_FALSE(c.window.txt_weightWater.isEnabled());
+    EXPECT_TRUE(b.alerts().empty() && c.alerts().empty());
 }
 
 } // namespace

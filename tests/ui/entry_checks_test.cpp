@@ -54,18 +54,6 @@ TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
     }
 }
 
-TEST(EntryChecks, TwoSeparatorsPassAndAnEntryEmptiedByDeletingPassesUntilItIsLeft) {
-    Entries h;
-    h.type(h.window.txt_leftSG, "1.2.3");
-    h.leave();
-    h.type(h.window.txt_leftHardness, "7");
-    h.deleteBackward();
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    EXPECT_EQ(h.window.firstResponder(), nullptr);
-}
-
 TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
     Entries h;
     h.window.txt_leftRIReading.setText("x,y");

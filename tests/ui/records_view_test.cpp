@@ -39,13 +39,7 @@ struct RecordsBench {
         window.txt_recordsFilter.setText(text);
         view.controlTextDidChange(&window.txt_recordsFilter);
     }
-    Texts alertMessages() const {
-        Texts texts;
-        for (const auto& a : alerts.alerts) {
-            texts.push_back(a.message);
-        }
-        return texts;
-    }
+    Texts alertMessages() const { return alerts.texts(&RecordedAlert::message); }
 
     MainWindow window;
     RecordingAlertPresenter alerts;

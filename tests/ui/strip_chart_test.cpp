@@ -34,10 +34,6 @@ TEST(StripChart, TheHeightSpansWhatIsShownPaddedAndNeverLessThanTheSmallestRange
     } cases[] = {
         {"nothing", {}, std::nullopt, std::nullopt},
         {"one reading", {1.624}, std::nullopt, ChartRange{1.619, 1.629}},
-        {"jitter within the smallest range",
-         {1.624, 1.625, 1.623},
-         std::nullopt,
-         ChartRange{1.619, 1.629}},
         {"the stone on the prism only, padded a fifth each side",
          {1.544, 1.553, std::nullopt, 1.624, 1.644},
          std::nullopt,

@@ -9,6 +9,12 @@
 namespace velmora::test {
 namespace {
 
+// A USB serial adapter's port, with made-up but plausible details.
+SerialDevice usbSerialPort(std::string path, std::int64_t vendorId, std::int64_t productId) {
+    return {std::move(path), "USB Serial", "Maker", "SN" + std::to_string(productId),
+            vendorId,        productId};
+}
+
 const SerialDevice ftdi = usbSerialPort("/dev/ttyUSB0", 0x0403, 0x6001);
 const SerialDevice instrument = usbSerialPort("/dev/ttyACM0", 0x04D8, 0xF9FF);
 

@@ -43,11 +43,11 @@ TEST_F(Quit, ARecordSavedInTheWindowIsAChangeTheQuitMustSaveOrBeToldToDrop) {
     });
     click("btn_saveRecord");
     EXPECT_TRUE(delegate().persistentContainer().hasChanges());
-    EXPECT_THAT(alertTexts(&RecordedAlert::message), IsEmpty());
+    EXPECT_THAT(alerts.texts(&RecordedAlert::message), IsEmpty());
 
     alerts.answers = {0, 1}; // the error's OK, then Cancel
     EXPECT_FALSE(window().close());
-    EXPECT_THAT(alertTexts(&RecordedAlert::message),
+    EXPECT_THAT(alerts.texts(&RecordedAlert::message),
                 ElementsAre("cannot save Velmora.sqlite",
                             "Could not save changes while quitting. Quit anyway?"));
     EXPECT_TRUE(window().isVisible());

@@ -145,12 +145,4 @@ QString ShellTest::text(const char* name) {
     return {};
 }
 
-std::vector<std::string> ShellTest::alertTexts(std::string RecordedAlert::*text) const {
-    std::vector<std::string> texts;
-    for (const auto& alert : alerts.alerts) {
-        texts.push_back(alert.*text);
-    }
-    return texts;
-}
-
 } // namespace velmora::test

@@ -12,7 +12,6 @@
 #include "tests/support/recording_alert_presenter.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/recording_workspace.h"
-#include "tests/support/settable_locale.h"
 #include "tests/support/temp_dir.h"
 
 #include <QAbstractItemModelTester>
@@ -59,9 +58,6 @@ protected:
     QColor colourAt(const char* name); // the middle of the widget, as painted
     QStringList listedStones();        // the table's name column, top to bottom
     QString text(const char* name);    // a label's, an entry's or a pop-up's
-    // The alerts' informative texts, or another of their texts, in the order shown.
-    std::vector<std::string>
-    alertTexts(std::string RecordedAlert::*text = &RecordedAlert::informative) const;
 
     static const QColor red;
     static const QColor green;
@@ -72,7 +68,7 @@ protected:
     RecordingLog log;
     HIDDeviceConnector instrument;
     RecordingAlertPresenter alerts;
-    SettableLocale locale{"."};
+    FixedLocale locale;
     std::ostringstream standardOutput;
     RecordingWorkspace workspace;
     Bundle bundle;

@@ -9,9 +9,9 @@ namespace velmora::test {
 namespace {
 
 using ::testing::IsEmpty;
-using BestMatchesWindow = ShellTest;
+using ResultsTabs = ShellTest;
 
-TEST_F(BestMatchesWindow, ListTheCandidatesAfterASearchAndShowTheOneClicked) {
+TEST_F(ResultsTabs, BestMatchesListTheCandidatesAfterASearchAndShowTheOneClicked) {
     open();
     auto* tabs = widget<QTabWidget>("resultsTabs");
     tabs->setCurrentWidget(widget("tab_bestMatches"));
@@ -34,6 +34,33 @@ TEST_F(BestMatchesWindow, ListTheCandidatesAfterASearchAndShowTheOneClicked) {
     settle();
     EXPECT_EQ(text("txt_sg"), "3.97-4.05");
     EXPECT_EQ(text("txt_hardness"), "9-9");
+}
+
+// Start-up opens no store; the first turn to the records does, and tells a failure there.
+TEST_F(ResultsTabs, TheRecordsContainerOpensWhenTheUserFirstTurnsToTheRecords) {
+    const struct {
+        MemoryStoreSetup store;
+        std::vector<std::string> alerts;
+    } cases[] = {
+        {{}, {}},
+        {{.loadError = "cannot create the folder /data: Permission denied", .opens = false},
+         {"The records cannot be opened"}},
+    };
+    for (const auto& c : cases) {
+        alerts.alerts.clear();
+        containersMade = 0;
+        open({.store = c.store});
+        EXPECT_EQ(containersMade, 0);
+        auto* tabs = widget<QTabWidget>("resultsTabs");
+        tabs->setCurrentWidget(widget("tab_records"));
+        settle();
+        tabs->setCurrentWidget(widget("tab_bestMatches"));
+        tabs->setCurrentWidget(widget("tab_records"));
+        settle();
+        EXPECT_EQ(containersMade, 1);
+        EXPECT_EQ(alerts.texts(&RecordedAlert::message), c.alerts);
+        EXPECT_EQ(widget<QTableView>("tbl_records")->model()->rowCount(), 0);
+    }
 }
 
 } // namespace
