@@ -101,6 +101,9 @@ void ViewController::tabViewDidSelectTabViewItem(TabView& tabView) {
     lbl_stonesListCaption.setHidden(page != stonesListedPage);
     btn_stonesList.setHidden(page != stonesListedPage);
     view_detailPanel.setHidden(page == recordsPage);
+    if (page == recordsPage) {
+        showRecords();
+    }
 }
 
 } // namespace velmora

@@ -107,7 +107,8 @@ public:
     double tableViewHeightOfRow(TableView& table, int row) override;
     bool tableViewShouldSelectRow(TableView& table, int row) override;
     // The Stone pop-up names only the listed stones, so it shows beside their page alone; the
-    // reference stone's detail has no part in the records, which take its width.
+    // reference stone's detail has no part in the records, which take its width, and are listed
+    // anew each time their page comes to the front.
     void tabViewDidSelectTabViewItem(TabView& tabView);
 
     // Best matches (best_matches_form.cpp): ranked anew on every Search and Enter, and on every
@@ -129,7 +130,7 @@ public:
     // The Records view (record_measurement.cpp, records_view.cpp). Without services it has no
     // store and says so when used.
     void setRecordsServices(RecordsServices services);
-    // Lists the records; the store opens on first use.
+    // Lists the records; the store opens on first use, not at start-up.
     void showRecords();
     const RecordsView& records() const { return records_; }
     RecordsView& records() { return records_; }

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QTabWidget>
 
 namespace velmora::qt {
 
@@ -13,15 +12,6 @@ ApplicationShell::ApplicationShell(ViewControllerEnvironment environment, AppDel
     // The records live in the container, so a record's change is one of its unsaved changes.
     controller_.setRecordsServices(
         {[this] { return delegate_.persistentContainer().records(); }, &recordsDialogs_, &report_});
-    // Start-up opens no store: the records are listed, and the container opened (or its failure
-    // told), when the user first turns to them.
-    if (auto* tabs = window_.findChild<QTabWidget*>("resultsTabs")) {
-        QObject::connect(tabs, &QTabWidget::currentChanged, &window_, [this, tabs](int index) {
-            if (tabs->widget(index)->objectName() == "tab_records") {
-                controller_.showRecords();
-            }
-        });
-    }
     QObject::connect(window_.saveAction(), &QAction::triggered, &window_,
                      [this] { delegate_.saveAction(); });
     QObject::connect(window_.quitAction(), &QAction::triggered, &window_,
