@@ -1,6 +1,6 @@
 #include "ui/qt/button_binding.h"
 
-#include "ui/qt/layer_style.h"
+#include "ui/qt/window_style.h"
 
 #include <QCheckBox>
 

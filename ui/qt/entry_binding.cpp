@@ -61,12 +61,14 @@ void EntryBinding::apply(Property property) {
             }
         }
         break;
-    case Property::Editable:
+    case Property::Editable: {
         widget_->setReadOnly(!element_.isEditable());
-        // The style sheet tells read-only fields apart; it looks again only when asked.
-        widget_->style()->unpolish(widget_);
-        widget_->style()->polish(widget_);
+        // A value to read, not to type, is written bold.
+        QFont font = widget_->font();
+        font.setBold(widget_->isReadOnly());
+        widget_->setFont(font);
         break;
+    }
     default:
         ViewBinding::apply(property);
     }

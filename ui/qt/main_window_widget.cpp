@@ -1,14 +1,13 @@
 #include "ui/qt/main_window_widget.h"
 
-#include "main_window_style.h"
 #include "ui/qt/button_binding.h"
 #include "ui/qt/capture_bindings.h"
 #include "ui/qt/entry_binding.h"
 #include "ui/qt/label_binding.h"
-#include "ui/qt/layer_sheet.h"
 #include "ui/qt/pop_up_binding.h"
 #include "ui/qt/table_binding.h"
 #include "ui/qt/text_view_binding.h"
+#include "ui/qt/window_style.h"
 #include "ui_best_matches_page.h"
 #include "ui_main_window.h"
 #include "ui_records_page.h"
@@ -101,6 +100,7 @@ private:
 template <class Form> std::unique_ptr<Form> fillPage(QWidget& page) {
     auto form = std::make_unique<Form>();
     form->setupUi(&page);
+    WindowStyle::dress(page);
     for (QWidget* child : page.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
             child->show();
@@ -114,7 +114,8 @@ template <class Form> std::unique_ptr<Form> fillPage(QWidget& page) {
 MainWindowWidget::MainWindowWidget(MainWindow& elements, QWidget* parent)
     : QMainWindow(parent), elements_(elements), form_(std::make_unique<Ui::MainWindowForm>()) {
     form_->setupUi(this);
-    new LayerSheet(*this, mainWindowStyleSheet);
+    WindowStyle::markWindow(*this);
+    WindowStyle::dress(*this);
     bindElements(elements);
     connect(form_->resultsTabs, &QTabWidget::currentChanged, this,
             [this](int index) { makePage(form_->resultsTabs->widget(index)); });

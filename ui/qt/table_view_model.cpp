@@ -1,7 +1,7 @@
 #include "ui/qt/table_view_model.h"
 
 #include "ui/main_window.h"
-#include "ui/qt/layer_style.h"
+#include "ui/qt/window_style.h"
 
 #include <QSize>
 

@@ -1,14 +1,13 @@
 #include "ui/qt/view_binding.h"
 
 #include "ui/control.h"
-#include "ui/qt/layer_sheet.h"
-#include "ui/qt/layer_style.h"
+#include "ui/qt/window_style.h"
 
 namespace velmora::qt {
 
 ViewBinding::ViewBinding(View& view, QWidget* widget)
     : ElementBinding(view), view_(view), widget_(widget) {
-    // A plain widget paints a style sheet's background only when asked to.
+    // A plain widget asks the style to paint its background (its layer) only when told to.
     widget_->setAttribute(Qt::WA_StyledBackground);
 }
 
@@ -18,8 +17,7 @@ void ViewBinding::apply(Property property) {
     }
     switch (property) {
     case Property::Hidden:
-        // Showing a widget that is not hidden would polish it at once, before the window is
-        // styled, and every style sheet set later would then restyle it again.
+        // Only a change: showing a widget not yet on screen would polish it before its window.
         if (widget_->isHidden() != view_.isHidden()) {
             widget_->setHidden(view_.isHidden());
         }
@@ -28,12 +26,11 @@ void ViewBinding::apply(Property property) {
     case Property::BorderWidth:
     case Property::BorderColor:
     case Property::CornerRadius: {
-        const QString rule = layerStyleSheet(widget_->objectName(), view_);
-        if (LayerSheet* sheet = LayerSheet::of(*widget_)) {
-            sheet->setRule(*widget_, rule);
-        } else if (rule != widget_->styleSheet()) {
-            widget_->setStyleSheet(rule);
-        }
+        Layer{view_.backgroundColor() ? toQColor(*view_.backgroundColor()) : QColor(),
+              static_cast<int>(view_.borderWidth()),
+              view_.borderColor() ? toQColor(*view_.borderColor()) : QColor(Qt::black),
+              static_cast<int>(view_.cornerRadius())}
+            .setOn(*widget_);
         break;
     }
     case Property::Enabled:

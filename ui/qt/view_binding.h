@@ -1,7 +1,7 @@
 #pragma once
 
-// A plain view or a control: shown or hidden, enabled or not, and its layer's look. The widget's
-// own style sheet is the layer's: the interface file styles it from an ancestor.
+// A plain view or a control: shown or hidden, enabled or not, and its layer's look, which the
+// window's style draws (window_style.h).
 
 #include "ui/qt/element_binding.h"
 #include "ui/view.h"
