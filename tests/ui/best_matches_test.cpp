@@ -52,8 +52,7 @@ TEST(BestMatches, RankOnSearchAndAnewAsTheirOwnEntriesChange) {
     // out: Almandine's range starts 0.013 above the low reading, and a spread of 0.008 is no
     // singly refractive stone's.
     EXPECT_EQ(ruby.candidates(), Texts{"Corundum"});
-    EXPECT_TRUE(b.alerts().empty());
-    EXPECT_TRUE(ruby.alerts().empty());
+    EXPECT_TRUE(b.alerts().empty() && ruby.alerts().empty());
 }
 
 TEST(BestMatches, ABadEntryShowsANoteAndNeverAnAlert) {
@@ -64,7 +63,7 @@ TEST(BestMatches, ABadEntryShowsANoteAndNeverAnAlert) {
     EXPECT_TRUE(b.candidates().empty());
     b.leave();
     EXPECT_EQ(b.window.txt_leftRIHigh.text(), "1.770x"); // kept for the user to mend
-    EXPECT_TRUE(b.alerts().empty());
+    EXPECT_EQ(b.alerts(), Texts{});
 }
 
 TEST(BestMatches, TheStrictSearchKeepsItsAlertsAndItsList) {
@@ -76,8 +75,8 @@ TEST(BestMatches, TheStrictSearchKeepsItsAlertsAndItsList) {
     EXPECT_EQ(b.alerts(), Texts{"Please enter S.G. value!"});
     // The ranking leaves the empty S.G. out; the listed stones stay as they were.
     EXPECT_EQ(b.candidates().front(), "Corundum");
-    EXPECT_EQ(b.window.tableView.numberOfRows(), 5);
-    EXPECT_EQ(b.window.txt_RI.text(), shown);
+    EXPECT_EQ(std::pair(b.window.tableView.numberOfRows(), b.window.txt_RI.text()),
+              std::pair(5, shown));
 }
 
 // What the weights give, and what is wrong with them, is the weighing's own; the window's part is
@@ -98,8 +97,7 @@ TEST(BestMatches, WeighingFillsTheSgEntryOrNotesTheImpossibleWeights) {
     EXPECT_EQ(c.note(), "The weight in water must be below the weight in air: water buoys the "
                         "stone up.");
     c.click(c.window.check_sg);
-    EXPECT_EQ(c.window.txt_weightWater.text(), "");
-    EXPECT_FALSE(c.window.txt_weightWater.isEnabled());
+    EXPECT_FALSE(c.window.txt_weightWater.isEnabled() || !c.window.txt_weightWater.text().empty());
     EXPECT_TRUE(b.alerts().empty() && c.alerts().empty());
 }
 
