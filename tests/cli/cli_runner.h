@@ -35,6 +35,12 @@ struct ReferenceFile {
     explicit ReferenceFile(const std::vector<std::string>& rows)
         : path(dir.write("ref.csv", referenceText(rows)).string()) {}
 
+    // The command over this file, with these arguments.
+    CliResult run(const std::string& command, std::vector<std::string> args) const {
+        args.insert(args.begin(), {command, "--reference", path});
+        return runCli(args);
+    }
+
     TempDir dir;
     std::string path;
 };
