@@ -3,14 +3,12 @@
 #include "tests/support/manual_run_loop.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 
 class HidapiDeviceTest : public ::testing::Test {
 protected:
