@@ -17,6 +17,10 @@ struct CliResult {
     int status = -1;
     std::string out;
     std::string err;
+    bool operator==(const CliResult&) const = default;
+    friend std::ostream& operator<<(std::ostream& os, const CliResult& r) {
+        return os << "exit " << r.status << ", out \"" << r.out << "\", err \"" << r.err << '"';
+    }
 };
 
 inline CliResult runCli(std::vector<std::string> args) {

@@ -49,9 +49,7 @@ TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
     };
     for (const auto& [args, out, err] : cases) {
         const auto r = file.run("identify", args);
-        EXPECT_EQ(r.status, err.empty() ? 0 : 1) << err;
-        EXPECT_EQ(r.out, out);
-        EXPECT_EQ(r.err, err);
+        EXPECT_EQ(r, (CliResult{err.empty() ? 0 : 1, out, err}));
     }
 }
 

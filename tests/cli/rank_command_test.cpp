@@ -31,8 +31,7 @@ TEST(RankCommand, PrintsNumberNameFitAndDeviationsBestFirst) {
     };
     for (const auto& [args, out] : cases) {
         const auto r = file.run("rank", args);
-        EXPECT_EQ(r.status, 0) << r.err;
-        EXPECT_EQ(r.out, out) << testing::PrintToString(args);
+        EXPECT_EQ(r, (CliResult{0, out, ""})) << testing::PrintToString(args);
     }
 }
 
@@ -65,9 +64,7 @@ TEST(RankCommand, EmptyEntriesRaiseTheWindowsAlertsAndBadValuesAreUsageErrors) {
     };
     for (const auto& [args, status, err] : cases) {
         const auto r = file.run("rank", args);
-        EXPECT_EQ(r.status, status) << testing::PrintToString(args);
-        EXPECT_EQ(r.err, err);
-        EXPECT_EQ(r.out, "");
+        EXPECT_EQ(r, (CliResult{status, "", err})) << testing::PrintToString(args);
     }
     for (const std::vector<std::string>& args : {std::vector<std::string>{"--otl", "--ri", "1.5"},
                                                  {"--ri-high", "1.6"},

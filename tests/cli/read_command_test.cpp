@@ -23,8 +23,9 @@ TEST(ReadCommand, ReplaysAFileFromTheTopAgainAndRefusesOneItCannotReplay) {
     TempDir dir;
     const auto file = dir.write("r.txt", "1.544\n1.5455\n");
     const auto r = runCli({"read", "--simulate=" + file.string(), "--count", "3", "--json"});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "{\"reading\":\"1.544\"}\n{\"reading\":\"1.546\"}\n{\"reading\":\"1.544\"}\n");
+    const std::string json =
+        "{\"reading\":\"1.544\"}\n{\"reading\":\"1.546\"}\n{\"reading\":\"1.544\"}\n";
+    EXPECT_EQ(r, (CliResult{0, json, ""}));
 
     const auto bad = runCli({"read", "--simulate=" + dir.write("bad.txt", "1.5x\n").string()});
     EXPECT_EQ(bad.status, 1);
@@ -53,9 +54,7 @@ TEST(ReadCommand, SteadyPrintsOneLineEachTimeTheReadingSettles) {
     TempDir dir;
     const std::string replay = "--simulate=" + dir.write("quartz.txt", quartzReplay()).string();
     const auto r = runCli({"read", "--steady", replay, "--count", "2", "--decimal-separator", ","});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_EQ(r.out, "1,544\n1,553\n");
-    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(r, (CliResult{0, "1,544\n1,553\n", ""}));
 }
 
 // The instrument on a fake bus answers each request with 1.540, and at the request numbered
@@ -80,9 +79,7 @@ struct Instrument {
 TEST(ReadCommand, EndsWithAMessageWhenTheInstrumentIsUnpluggedMidStream) {
     Instrument instrument(3, [&] { instrument.bus.unplug(); });
     const auto r = runCli({"read", "--decimal-separator", "."});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, "1.540\n1.540\n");
-    EXPECT_EQ(r.err, "velmora-cli: the instrument was unplugged\n");
+    EXPECT_EQ(r, (CliResult{1, "1.540\n1.540\n", "velmora-cli: the instrument was unplugged\n"}));
     EXPECT_EQ(instrument.bus.countSent(0x31, 0x00), 3u);
 }
 

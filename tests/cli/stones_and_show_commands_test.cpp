@@ -12,9 +12,8 @@ TEST(StonesCommand, PrintsTheLoadOrderIdTabNameOrAsJsonLines) {
                         row({{0, "4"}, {1, "Dropped"}, {16, "0"}}), stoneRow("7", "Amethyst"),
                         stoneRow("1", "Sph\xC3\xA8ne \"titanite\"")});
     const auto r = file.run("stones", {});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "7\tAmethyst\n1\tSph\xC3\xA8ne titanite\n3\tZircon\n12\truby\n");
-    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(r,
+              (CliResult{0, "7\tAmethyst\n1\tSph\xC3\xA8ne titanite\n3\tZircon\n12\truby\n", ""}));
     // The common options may also stand before the command.
     const auto json = runCli({"--json", "--reference", file.path, "stones"});
     EXPECT_EQ(json.out.substr(0, json.out.find('\n', json.out.find('\n') + 1) + 1),
@@ -68,8 +67,7 @@ TEST(ShowCommand, PrintsTheDetailPanelOfTheFirstStoneOfThatName) {
 TEST(ShowCommand, ANameNotInTheReferenceSetIsAUsageError) {
     ReferenceFile file({stoneRow("1", "Quartz")});
     const auto r = file.run("show", {"Topaz"});
-    EXPECT_EQ(r.status, 2);
-    EXPECT_EQ(r.err, "show: no stone named \"Topaz\" in the reference set\n");
+    EXPECT_EQ(r, (CliResult{2, "", "show: no stone named \"Topaz\" in the reference set\n"}));
     EXPECT_EQ(file.run("show", {}).status, 2);
 }
 

@@ -18,15 +18,7 @@ const std::vector<std::string> reference = {
 
 struct Bench : WindowHarness {
     Bench() : WindowHarness({.rows = reference}) { click(window.bvtn_dictionary); }
-    // The first line of each candidate, best first.
-    Texts candidates() {
-        Texts names;
-        for (int row = 0; row < window.tbl_bestMatches.numberOfRows(); ++row) {
-            const std::string text = cellText(window.tbl_bestMatches, 1, row).value_or("?");
-            names.push_back(text.substr(0, text.find('\n')));
-        }
-        return names;
-    }
+    Texts candidates() { return columnTexts(window.tbl_bestMatches, 1); }
     std::string note() const { return window.lbl_bestMatchesNote.text(); }
     void rubyReadings() {
         click(window.check_RI);

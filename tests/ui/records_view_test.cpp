@@ -18,7 +18,7 @@ using Texts = std::vector<std::string>;
 // The view over a window of its own, a store in memory and scripted dialogs; each saved record
 // is measured as holding the label and two candidates.
 struct RecordsBench {
-    RecordsBench() {
+    explicit RecordsBench(MemoryStoreSetup setup = {}) : store(std::move(setup)) {
         store.loadPersistentStores();
         view.setServices({[this] { return store.records(); }, &dialogs, &report});
         view.reload();
@@ -27,13 +27,7 @@ struct RecordsBench {
         dialogs.labels.push_back(label);
         view.saveRecord();
     }
-    Texts labels() {
-        Texts texts;
-        for (int row = 0; row < window.tbl_records.numberOfRows(); ++row) {
-            texts.push_back(cellText(window.tbl_records, 0, row).value_or("?"));
-        }
-        return texts;
-    }
+    Texts labels() { return columnTexts(window.tbl_records, 0); }
     void filter(const std::string& text) {
         window.txt_recordsFilter.setText(text);
         view.controlTextDidChange(&window.txt_recordsFilter);
@@ -133,13 +127,10 @@ TEST(RecordsView, WithoutAStoreOrALabelNothingIsSaved) {
                  {true, std::nullopt, {}},
                  {true, "", {"The record needs a label"}}};
     for (const auto& c : cases) {
-        RecordsBench b;
-        MemoryStore store({.opens = c.opens});
-        store.loadPersistentStores();
-        b.view.setServices({[&store] { return store.records(); }, &b.dialogs, &b.report});
+        RecordsBench b({.opens = c.opens});
         b.dialogs.labels.push_back(c.label);
         b.view.saveRecord();
-        EXPECT_FALSE(store.hasChanges()) << c.opens;
+        EXPECT_FALSE(b.store.hasChanges()) << c.opens;
         EXPECT_EQ(b.alertMessages(), c.alerts) << c.opens;
     }
 }
