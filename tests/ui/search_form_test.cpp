@@ -67,9 +67,8 @@ TEST(Search, NothingFoundShowsTheEmptyListBeforeTheAlert) {
 }
 
 TEST(CheckBoxes, SwitchAnEntryOnEmptyAndOffEmptied) {
-    WindowHarness h({.rows = reference});
+    Dictionary h;
     MainWindow& w = h.window;
-    h.click(w.bvtn_dictionary);
     h.click(w.check_sg);
     EXPECT_TRUE(w.txt_leftSG.isEnabled() && h.state().isSGState);
     h.type(w.txt_leftSG, "2.65");
