@@ -6,13 +6,11 @@
 #include "tests/support/recording_log.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty, ::testing::StartsWith;
 
 // Marks every text it is asked for, to show that the text went through translation.
 class MarkedStrings final : public LocalizedStrings {
@@ -50,8 +48,7 @@ TEST_F(AppDelegateTest, TheContainerIsMadeOnFirstUseOnlyAndAFreshQuitGoesAheadSi
     EXPECT_EQ(containersMade, 0);
     EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
     EXPECT_EQ(&d.persistentContainer(), &d.persistentContainer());
-    EXPECT_EQ(containersMade, 1);
-    EXPECT_EQ(store().loads, 1);
+    EXPECT_EQ(std::pair(containersMade, store().loads), std::pair(1, 1));
     EXPECT_THAT(alerts.alerts, IsEmpty());
 }
 
@@ -76,11 +73,9 @@ TEST_F(AppDelegateTest, AStoreThatFailsToLoadIsToldOnceAndTheApplicationCarriesO
         d.persistentContainer();
         EXPECT_THAT(log.errorLines, ElementsAre("Unresolved error " + why));
         EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
-        ASSERT_EQ(alerts.alerts.size(), 1u) << c.message;
-        EXPECT_EQ(alerts.alerts[0].message, c.message);
-        EXPECT_EQ(alerts.alerts[0].informative.rfind(why + "\n\n" + c.consequence, 0), 0u)
-            << alerts.alerts[0].informative;
-        EXPECT_EQ(alerts.alerts[0].buttons, std::vector<std::string>{"OK"});
+        ASSERT_THAT(alerts.texts(&RecordedAlert::message), ElementsAre(c.message));
+        EXPECT_THAT(alerts.alerts[0].informative, StartsWith(why + "\n\n" + c.consequence));
+        EXPECT_THAT(alerts.alerts[0].buttons, ElementsAre("OK"));
     }
 }
 
@@ -95,19 +90,16 @@ TEST_F(AppDelegateTest, SaveWritesChangesAndShowsAFailure) {
         .saveAction();
     EXPECT_THAT(log.errorLines,
                 ElementsAre("Velmora_Software.AppDelegate unable to commit editing before saving"));
-    ASSERT_EQ(alerts.alerts.size(), 1u);
-    EXPECT_EQ(alerts.alerts[0].message, "read-only folder");
-    EXPECT_EQ(alerts.alerts[0].buttons, std::vector<std::string>{"OK"});
+    ASSERT_THAT(alerts.texts(&RecordedAlert::message), ElementsAre("read-only folder"));
+    EXPECT_THAT(alerts.alerts[0].buttons, ElementsAre("OK"));
 }
 
-TEST_F(AppDelegateTest, EditsThatCannotBeCommittedHoldTheQuitBack) {
+// Edits that cannot be committed hold the quit back; changes are saved before it.
+TEST_F(AppDelegateTest, TheQuitCommitsAndSavesFirst) {
     EXPECT_EQ(delegate({.refusesCommit = true}).applicationShouldTerminate(),
               TerminateReply::Cancel);
     EXPECT_THAT(log.errorLines,
                 ElementsAre("Velmora_Software.AppDelegate unable to commit editing to terminate"));
-}
-
-TEST_F(AppDelegateTest, ChangesAreSavedBeforeTheQuit) {
     EXPECT_EQ(delegate({.hasChanges = true}).applicationShouldTerminate(), TerminateReply::Now);
     EXPECT_EQ(store().saves, 1);
 }
@@ -116,10 +108,9 @@ TEST_F(AppDelegateTest, AFailedSaveAtQuitShowsTheErrorThenAsksInTheUsersLanguage
     const MemoryStoreSetup failing{.hasChanges = true, .saveError = "disk full"};
     alerts.answers = {0, 1}; // OK, then Cancel
     EXPECT_EQ(delegate(failing).applicationShouldTerminate(), TerminateReply::Cancel);
-    ASSERT_EQ(alerts.alerts.size(), 2u);
-    EXPECT_EQ(alerts.alerts[0].message, "disk full");
+    ASSERT_THAT(alerts.texts(&RecordedAlert::message),
+                ElementsAre("disk full", "«Could not save changes while quitting. Quit anyway?»"));
     const RecordedAlert& question = alerts.alerts[1];
-    EXPECT_EQ(question.message, "«Could not save changes while quitting. Quit anyway?»");
     EXPECT_EQ(question.informative, "«Quitting now will lose any changes you have made since "
                                     "the last successful save»");
     EXPECT_THAT(question.buttons, ElementsAre("«Quit anyway»", "«Cancel»"));

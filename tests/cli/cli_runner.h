@@ -17,6 +17,10 @@ struct CliResult {
     int status = -1;
     std::string out;
     std::string err;
+    bool operator==(const CliResult&) const = default;
+    friend std::ostream& operator<<(std::ostream& os, const CliResult& r) {
+        return os << "exit " << r.status << ", out \"" << r.out << "\", err \"" << r.err << '"';
+    }
 };
 
 inline CliResult runCli(std::vector<std::string> args) {
@@ -34,6 +38,12 @@ inline CliResult runCli(std::vector<std::string> args) {
 struct ReferenceFile {
     explicit ReferenceFile(const std::vector<std::string>& rows)
         : path(dir.write("ref.csv", referenceText(rows)).string()) {}
+
+    // The command over this file, with these arguments.
+    CliResult run(const std::string& command, std::vector<std::string> args) const {
+        args.insert(args.begin(), {command, "--reference", path});
+        return runCli(args);
+    }
 
     TempDir dir;
     std::string path;

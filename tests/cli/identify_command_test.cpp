@@ -12,25 +12,20 @@ const std::vector<std::string> reference = {
     stoneRow("3", "Beryl", "1.57-1.60", "2.6-2.9", "7.5-8", "Green"),
 };
 
-CliResult identify(const ReferenceFile& file, std::vector<std::string> args) {
-    args.insert(args.begin(), {"identify", "--reference", file.path});
-    return runCli(args);
-}
-
 TEST(IdentifyCommand, UnderACommaSeparatorListsWhatTheWindowsTableLists) {
     ReferenceFile file(reference);
-    const auto r = identify(file, {"--ri", "1,544", "--decimal-separator", ","});
+    const auto r = file.run("identify", {"--ri", "1,544", "--decimal-separator", ","});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.err, "");
 
-    WindowHarness window({.rows = reference, .decimalSeparator = ","});
-    window.click(window.window.bvtn_dictionary);
-    window.click(window.window.check_RI);
-    window.type(window.window.txt_leftRIReading, "1,544");
-    window.leave();
-    window.click(window.window.btn_search);
+    WindowHarness h({.rows = reference, .decimalSeparator = ","});
+    h.click(h.window.bvtn_dictionary);
+    h.click(h.window.check_RI);
+    h.type(h.window.txt_leftRIReading, "1,544");
+    h.leave();
+    h.click(h.window.btn_search);
     std::string listed;
-    for (const auto& [number, name] : window.tableRows()) {
+    for (const auto& [number, name] : h.tableRows()) {
         listed.append(number).append("\t").append(name).append("\n");
     }
     EXPECT_EQ(r.out, listed);
@@ -53,10 +48,8 @@ TEST(IdentifyCommand, SwitchesOnTheCriteriaGivenAndPrintsTheListOrTheAlert) {
         {{"--ri", ""}, "", "Please enter R.I. value!\n"},
     };
     for (const auto& [args, out, err] : cases) {
-        const auto r = identify(file, args);
-        EXPECT_EQ(r.status, err.empty() ? 0 : 1) << err;
-        EXPECT_EQ(r.out, out);
-        EXPECT_EQ(r.err, err);
+        const auto r = file.run("identify", args);
+        EXPECT_EQ(r, (CliResult{err.empty() ? 0 : 1, out, err}));
     }
 }
 

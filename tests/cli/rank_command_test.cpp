@@ -12,11 +12,6 @@ const std::vector<std::string> reference = {
            "Tourmaline", "Blue"),
 };
 
-CliResult rank(const ReferenceFile& file, std::vector<std::string> args) {
-    args.insert(args.begin(), {"rank", "--reference", file.path});
-    return runCli(args);
-}
-
 TEST(RankCommand, PrintsNumberNameFitAndDeviationsBestFirst) {
     ReferenceFile file(reference);
     const std::tuple<std::vector<std::string>, std::string> cases[] = {
@@ -35,9 +30,8 @@ TEST(RankCommand, PrintsNumberNameFitAndDeviationsBestFirst) {
          "\"stones\":[{\"number\":\"3\",\"name\":\"Paraíba tourmaline\"}]}\n"},
     };
     for (const auto& [args, out] : cases) {
-        const auto r = rank(file, args);
-        EXPECT_EQ(r.status, 0) << r.err;
-        EXPECT_EQ(r.out, out) << testing::PrintToString(args);
+        const auto r = file.run("rank", args);
+        EXPECT_EQ(r, (CliResult{0, out, ""})) << testing::PrintToString(args);
     }
 }
 
@@ -69,17 +63,15 @@ TEST(RankCommand, EmptyEntriesRaiseTheWindowsAlertsAndBadValuesAreUsageErrors) {
          "weight in air: water buoys the stone up.\n"},
     };
     for (const auto& [args, status, err] : cases) {
-        const auto r = rank(file, args);
-        EXPECT_EQ(r.status, status) << testing::PrintToString(args);
-        EXPECT_EQ(r.err, err);
-        EXPECT_EQ(r.out, "");
+        const auto r = file.run("rank", args);
+        EXPECT_EQ(r, (CliResult{status, "", err})) << testing::PrintToString(args);
     }
     for (const std::vector<std::string>& args : {std::vector<std::string>{"--otl", "--ri", "1.5"},
                                                  {"--ri-high", "1.6"},
                                                  {"--sg", "2", "--weights", "1,0.5"},
                                                  {"--limit", "0"},
                                                  {"--color", "Gray"}}) {
-        EXPECT_EQ(rank(file, args).status, 2) << testing::PrintToString(args);
+        EXPECT_EQ(file.run("rank", args).status, 2) << testing::PrintToString(args);
     }
 }
 

@@ -3,13 +3,11 @@
 
 #include <cstdlib>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
-using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
+using ::testing::HasSubstr, ::testing::MatchesRegex;
 
 struct Store {
     TempDir dir;

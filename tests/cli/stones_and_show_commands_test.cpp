@@ -11,10 +11,9 @@ TEST(StonesCommand, PrintsTheLoadOrderIdTabNameOrAsJsonLines) {
     ReferenceFile file({stoneRow("12", "ruby"), stoneRow("3", "Zircon"),
                         row({{0, "4"}, {1, "Dropped"}, {16, "0"}}), stoneRow("7", "Amethyst"),
                         stoneRow("1", "Sph\xC3\xA8ne \"titanite\"")});
-    const auto r = runCli({"stones", "--reference", file.path});
-    EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "7\tAmethyst\n1\tSph\xC3\xA8ne titanite\n3\tZircon\n12\truby\n");
-    EXPECT_EQ(r.err, "");
+    const auto r = file.run("stones", {});
+    EXPECT_EQ(r,
+              (CliResult{0, "7\tAmethyst\n1\tSph\xC3\xA8ne titanite\n3\tZircon\n12\truby\n", ""}));
     // The common options may also stand before the command.
     const auto json = runCli({"--json", "--reference", file.path, "stones"});
     EXPECT_EQ(json.out.substr(0, json.out.find('\n', json.out.find('\n') + 1) + 1),
@@ -25,9 +24,9 @@ TEST(StonesCommand, PrintsTheLoadOrderIdTabNameOrAsJsonLines) {
 // A crafted table must not reach the terminal as control sequences: a title set, a screen cleared.
 TEST(StonesCommand, WritesOutTheControlCharactersOfNames) {
     ReferenceFile file({stoneRow("1\x1B[2J", "Ruby\x1B]0;owned\x07\t\xC2\x9B")});
-    const auto r = runCli({"stones", "--reference", file.path});
+    const auto r = file.run("stones", {});
     EXPECT_EQ(r.out, "1\\x1B[2J\tRuby\\x1B]0;owned\\x07\\x09U+009B\n");
-    const auto json = runCli({"stones", "--json", "--reference", file.path});
+    const auto json = file.run("stones", {"--json"});
     EXPECT_EQ(json.out.find('\x1B'), std::string::npos) << json.out;
 }
 
@@ -58,7 +57,7 @@ TEST(StonesCommand, UsageErrorsExitTwo) {
 TEST(ShowCommand, PrintsTheDetailPanelOfTheFirstStoneOfThatName) {
     ReferenceFile file({row({{1, "Quartz"}, {6, "1.544 - 1.553"}, {19, "Brazil^ Madagascar"}}),
                         row({{1, "Quartz"}, {6, "second"}})});
-    const auto r = runCli({"show", "Quartz", "--reference", file.path, "--decimal-separator", ","});
+    const auto r = file.run("show", {"Quartz", "--decimal-separator", ","});
     EXPECT_EQ(r.status, 0) << r.err;
     // The first Quartz, its commas restored and its numbers in the user's notation.
     EXPECT_NE(r.out.find("txt_commonSource\tBrazil, Madagascar\n"), std::string::npos) << r.out;
@@ -67,10 +66,9 @@ TEST(ShowCommand, PrintsTheDetailPanelOfTheFirstStoneOfThatName) {
 
 TEST(ShowCommand, ANameNotInTheReferenceSetIsAUsageError) {
     ReferenceFile file({stoneRow("1", "Quartz")});
-    auto r = runCli({"show", "Topaz", "--reference", file.path});
-    EXPECT_EQ(r.status, 2);
-    EXPECT_EQ(r.err, "show: no stone named \"Topaz\" in the reference set\n");
-    EXPECT_EQ(runCli({"show", "--reference", file.path}).status, 2);
+    const auto r = file.run("show", {"Topaz"});
+    EXPECT_EQ(r, (CliResult{2, "", "show: no stone named \"Topaz\" in the reference set\n"}));
+    EXPECT_EQ(file.run("show", {}).status, 2);
 }
 
 } // namespace

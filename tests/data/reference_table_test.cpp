@@ -43,6 +43,10 @@ const Table& shippedTable() {
     return table;
 }
 
+bool catalogued(std::string_view colour) {
+    return std::ranges::any_of(colorCatalogue(), [&](const Color& c) { return c.name == colour; });
+}
+
 // "low-high", with its bounds in the given columns, within what nature gives.
 void expectRange(const Stones& s, const std::string& cell, const std::string& min,
                  const std::string& max, double lowest, double highest) {
@@ -87,10 +91,7 @@ TEST(ShippedReferenceTable, EveryStoneHasItsRangesFamilyAndColoursAndIsUnique) {
         for (const auto* cell :
              {&s.Color1, &s.Color2, &s.Color3, &s.Color4, &s.Color5, &s.Color6}) {
             colours += !cell->empty();
-            EXPECT_TRUE(cell->empty() ||
-                        std::ranges::any_of(colorCatalogue(),
-                                            [&](const Color& c) { return c.name == *cell; }))
-                << s.StoneName << ": " << *cell;
+            EXPECT_TRUE(cell->empty() || catalogued(*cell)) << s.StoneName << ": " << *cell;
         }
         EXPECT_GT(colours, 0) << s.StoneName << " has no colour";
         const auto id = parseCNumber(s.StoneID);
@@ -217,9 +218,8 @@ TEST(ShippedReferenceTable, RowsOfOneSpeciesShareOneFamily) {
 
 TEST(ShippedReferenceTable, EveryBirefringenceFitsWithinItsOwnIndexSpan) {
     for (const auto& s : shippedTable().rows) {
-        const auto widest = parseCNumber(s.BirefMax);
-        const auto low = parseCNumber(s.RiMin);
-        const auto high = parseCNumber(s.RiMax);
+        const auto [widest, low, high] =
+            std::tuple(parseCNumber(s.BirefMax), parseCNumber(s.RiMin), parseCNumber(s.RiMax));
         // A range cut at the 3.00 ceiling no longer spans the true birefringence.
         if (widest && low && high && *high < 3.0) {
             EXPECT_LE(*widest, *high - *low + 1e-9)
@@ -275,20 +275,15 @@ TEST(IdentificationExamples, EveryLineIsAReadingOfASpeciesInTheTable) {
     std::size_t overTheLimit = 0;
     std::map<std::string, int> perSpecies;
     while (std::getline(file, line)) {
-        std::vector<std::string> cell;
-        for (const std::string_view part : test::splitAt(line, ',')) {
-            cell.emplace_back(part);
-        }
+        const auto parts = test::splitAt(line, ',');
+        const std::vector<std::string> cell(parts.begin(), parts.end());
         ASSERT_EQ(cell.size(), 10u) << line;
         ++lines;
         ++perSpecies[cell[0]];
         EXPECT_TRUE(families.contains(cell[0])) << cell[0] << " is no family of the table";
         const auto sg = parseCNumber(cell[5]);
         EXPECT_TRUE(sg && *sg > 0.9 && *sg < 7.5) << line;
-        EXPECT_TRUE(cell[7].empty() ||
-                    std::ranges::any_of(colorCatalogue(),
-                                        [&](const Color& c) { return c.name == cell[7]; }))
-            << line;
+        EXPECT_TRUE(cell[7].empty() || catalogued(cell[7])) << line;
         EXPECT_TRUE(cell[8] == "measured" || cell[8] == "typical" || cell[8] == "range-end")
             << line;
         EXPECT_FALSE(cell[9].empty()) << line;

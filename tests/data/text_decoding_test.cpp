@@ -31,9 +31,7 @@ TEST(DecodeText, AMarkSelectsTheEncodingAndWithoutOneInvalidUtf8IsWindows1252) {
     }
     const std::pair<std::string, std::string> cases[] = {
         {"Ruby,1\n", "Ruby,1\n"},
-        {"\xEF\xBB\xBF"
-         "Sph\xC3\xA8ne",
-         "Sph\xC3\xA8ne"},
+        {"\uFEFFSph\xC3\xA8ne", "Sph\xC3\xA8ne"},
         {marked(utf16, false), sphene},
         {marked(utf16, true), sphene},
         {marked(utf32, false), sphene},
@@ -58,10 +56,7 @@ TEST(DecodeText, AMarkSelectsTheEncodingAndWithoutOneInvalidUtf8IsWindows1252) {
         EXPECT_EQ(decodeText(std::move(roomy)).text, text) << bytes.substr(0, 40);
     }
     // Broken text under a mark has no fallback.
-    EXPECT_FALSE(decodeText(std::string("\xFF\xFE"
-                                        "a",
-                                        3))
-                     .text);
+    EXPECT_FALSE(decodeText(std::string{'\xFF', '\xFE', 'a'}).text);
     EXPECT_FALSE(decodeText("\xEF\xBB\xBF\xE9").text);
 }
 

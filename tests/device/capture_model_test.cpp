@@ -2,14 +2,11 @@
 #include "tests/device/reading_stream.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
-using ::testing::DoubleEq;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::DoubleEq, ::testing::ElementsAre, ::testing::IsEmpty;
 
 class CaptureModelTest : public ::testing::Test {
 protected:

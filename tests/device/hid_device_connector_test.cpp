@@ -5,15 +5,13 @@
 #include "tests/support/recording_log.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <variant>
 
 namespace velmora::test {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 
 const SentReport connectReport{0, {0x80, 0x80, 0, 0, 0, 0, 0, 0}};
 const SentReport updateReport{0, {0x31, 0x00, 0, 0, 0, 0, 0, 0}};
@@ -70,12 +68,11 @@ TEST_F(HIDDeviceConnectorTest, ConnectSendsStartReportsPostsTheDeviceOnceThenReq
 
     // Connect again: one start report, the same device, and the new timer in the old one's place.
     connector.connectDataToDevice();
-    EXPECT_EQ(bus.countSent(0x80, 0x80), 3u);
     EXPECT_EQ(bus.sentReports().back(), connectReport);
-    EXPECT_EQ(bus.liveManagers(), 1u);
     loop.advance(1s);
-    EXPECT_EQ(bus.countSent(0x31, 0x00), 6010u);
-    EXPECT_EQ(posted.size(), 1u);
+    EXPECT_EQ(std::tuple(bus.countSent(0x80, 0x80), bus.countSent(0x31, 0x00), bus.liveManagers(),
+                         posted.size()),
+              std::tuple(3u, 6010u, 1u, 1u));
 }
 
 TEST_F(HIDDeviceConnectorTest, ConnectWithoutTheInstrumentSendsAndPostsNothingUntilTheNextConnect) {
@@ -118,10 +115,9 @@ TEST_P(SessionEndTest, StopsTheRequestsAndPostsAnEmptyDeviceLast) {
                                      HIDDeviceDisconnected::name));
     // The session has let go of its device: the notification names none.
     EXPECT_EQ(std::get<HIDDeviceDisconnected>(posted[2].notification).id, "");
-    EXPECT_EQ(posted[2].sentBefore, 12u);
-    EXPECT_EQ(bus.sentReports().size(), 12u);
-    EXPECT_EQ(bus.liveManagers(), 0u);
-    EXPECT_EQ(loop.activeTimers(), 0u);
+    EXPECT_EQ(std::tuple(posted[2].sentBefore, bus.sentReports().size(), bus.liveManagers(),
+                         loop.activeTimers()),
+              std::tuple(12u, 12u, 0u, 0u));
     EXPECT_EQ(log.infoLines.back(), unplug ? "[INFO] Connect >> " : "[INFO] terminated >> ");
 
     // No session is left to end.
@@ -134,13 +130,11 @@ INSTANTIATE_TEST_SUITE_P(DisconnectOrUnplug, SessionEndTest, ::testing::Bool());
 // The reading is the first two bytes, thousandths, low byte first.
 TEST_F(HIDDeviceConnectorTest, EveryInputReportIsPostedAsItsReadingText) {
     connector.connectDataToDevice();
-    bus.sendInputReport({0x04, 0x06, 0, 0, 0, 0, 0, 0});
-    bus.sendInputReport({0x04, 0x06, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF});
-    bus.sendInputReport({0xED, 0x03, 1, 2, 3, 4, 5, 6, 7, 8});
-    // A short report overwrites only the bytes it has.
-    bus.sendInputReport({0xE7});
-    for (const Bytes& report :
-         {Bytes{0, 0}, Bytes{0x0A, 0}, Bytes{0x10, 0x27}, Bytes{0xFF, 0xFF}}) {
+    // A short report (0xE7) overwrites only the bytes it has.
+    for (const Bytes& report : {Bytes{0x04, 0x06, 0, 0, 0, 0, 0, 0},
+                                Bytes{0x04, 0x06, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF},
+                                Bytes{0xED, 0x03, 1, 2, 3, 4, 5, 6, 7, 8}, Bytes{0xE7}, Bytes{0, 0},
+                                Bytes{0x0A, 0}, Bytes{0x10, 0x27}, Bytes{0xFF, 0xFF}}) {
         bus.sendInputReport(report);
     }
     std::vector<std::string> texts;

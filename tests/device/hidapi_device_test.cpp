@@ -3,14 +3,12 @@
 #include "tests/support/manual_run_loop.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 
 class HidapiDeviceTest : public ::testing::Test {
 protected:
@@ -48,8 +46,7 @@ TEST_F(HidapiDeviceTest, WritesOnItsThreadAndHandsReportsThenOneRemovalBackThrou
     device->setOutputReport(0, update);
     EXPECT_THAT(script->writes, ElementsAre(Bytes{0, 0x31, 0x00, 0, 0, 0, 0, 0, 0}));
     EXPECT_NE(script->writerThread, std::this_thread::get_id());
-    EXPECT_EQ(script->closes, 1);
-    EXPECT_EQ(script->faults, 0);
+    EXPECT_EQ(std::pair(script->closes, script->faults), std::pair(1, 0)); // closed once, in turn
     // Reads are short, so that stopping never holds up the loop's thread for long.
     EXPECT_LE(script->longestReadTimeout, 50ms);
 }
@@ -68,8 +65,7 @@ TEST_F(HidapiDeviceTest, ACallbackMayDropTheDeviceAndADroppedDeviceDeliversNothi
     loop.runPending();
     EXPECT_EQ(device, nullptr);
     EXPECT_EQ(calls, 1);
-    EXPECT_EQ(script->closes, 1);
-    EXPECT_EQ(script->faults, 0);
+    EXPECT_EQ(std::pair(script->closes, script->faults), std::pair(1, 0)); // closed once, in turn
 }
 
 } // namespace

@@ -2,14 +2,12 @@
 #include "tests/device/reading_stream.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::DoubleNear;
-using ::testing::ElementsAre;
+using ::testing::DoubleNear, ::testing::ElementsAre;
 using State = SteadinessState;
 
 class SteadinessTest : public ::testing::Test {

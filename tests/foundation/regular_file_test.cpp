@@ -54,9 +54,7 @@ TEST(Printable, WritesOutControlCharactersAndBrokenBytes) {
         // A terminal's title set and its screen cleared.
         {"\x1B]0;owned\x07\x1B[2J", "\\x1B]0;owned\\x07\\x1B[2J"},
         {std::string("a\0b\tc\r\nd\x7F", 9), "a\\x00b\\x09c\\x0D\\x0Ad\\x7F"},
-        {"\xC2\x9B"
-         "31m",
-         "U+009B31m"}, // the C1 form of ESC [
+        {"\u009B31m", "U+009B31m"}, // the C1 form of ESC [
         {"\xC2\x85", "U+0085"},
         {"\xFF\xC3(", "\\xFF\\xC3("},
     };

@@ -53,15 +53,9 @@ TEST(Text, LongLinesCutOnlyAtNewlines) {
         // CR at the end of one eight-byte word, LF at the start of the next.
         {"1234567\r\n89abcdefgh", {"1234567", "", "89abcdefgh"}},
         // Characters that only look like the start of a newline: no cut.
-        {"1234567\xC3\xA9"
-         "89abcdefgh",
-         {"1234567\xC3\xA9"
-          "89abcdefgh"}},
+        {"1234567\u00E989abcdefgh", {"1234567\u00E989abcdefgh"}},
         // Control bytes beside the newlines' range, a TAB and DEL: no cut.
-        {"12345678\x0E\x09\x1F\x7F"
-         "9abcdefghi",
-         {"12345678\x0E\x09\x1F\x7F"
-          "9abcdefghi"}},
+        {"12345678\x0E\x09\x1F\1779abcdefghi", {"12345678\x0E\x09\x1F\1779abcdefghi"}},
         // A newline in the very last byte of a long text gives an empty last line.
         {"0123456789abcdef\n", {"0123456789abcdef", ""}},
     };

@@ -44,12 +44,9 @@ TEST(RecordFromMeasurement, TakesTheCapturedSeriesBeforeTheTypedReadings) {
 }
 
 TEST(RecordFromMeasurement, KeepsOnlyTheTickedReadableEntries) {
-    const MeasurementEntries all{.sg = true,
-                                 .hardness = true,
-                                 .sgText = "2.65",
-                                 .weightAirText = "0.530",
-                                 .weightWaterText = "0.330",
-                                 .hardnessText = "7"};
+    MeasurementEntries all{.sg = true, .hardness = true, .sgText = "2.65", .hardnessText = "7"};
+    all.weightAirText = "0.530";
+    all.weightWaterText = "0.330";
     MeasurementEntries unticked = all;
     unticked.sg = unticked.hardness = false;
     MeasurementEntries unreadable = all; // weights without the S.G. they gave are left out too

@@ -107,13 +107,10 @@ TEST(Weighing, GivesTheSgWithTheDecimalsTheWeightsAllowOrSaysWhatIsWrong) {
 
 TEST(BestMatchRows, GroupOneSpeciesUnderItsNameWithTheFirstVarietiesNamed) {
     const RankingTable table(reference);
-    const RankedForm ranked = rankForm(table,
-                                       {.isRIState = true,
-                                        .isSGState = true,
-                                        .riText = "1.762",
-                                        .riHighText = "1.770",
-                                        .sgText = "4.00"},
-                                       point, 10);
+    RankingForm form = riForm("1.762", "1.770");
+    form.isSGState = true;
+    form.sgText = "4.00";
+    const RankedForm ranked = rankForm(table, form, point, 10);
     ASSERT_FALSE(ranked.rows.empty());
     EXPECT_EQ(ranked.rows[0].fit, "100%");
     EXPECT_EQ(ranked.rows[0].candidate,

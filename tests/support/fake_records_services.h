@@ -4,6 +4,7 @@
 
 #include "ui/records_services.h"
 
+#include <algorithm>
 #include <deque>
 
 namespace velmora::test {
@@ -48,10 +49,8 @@ public:
 
 private:
     static std::vector<std::string> labels(std::span<const StoneRecord> records) {
-        std::vector<std::string> texts;
-        for (const StoneRecord& r : records) {
-            texts.push_back(r.label);
-        }
+        std::vector<std::string> texts(records.size());
+        std::ranges::transform(records, texts.begin(), &StoneRecord::label);
         return texts;
     }
 };

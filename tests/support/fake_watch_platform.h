@@ -30,26 +30,18 @@ public:
     // done; the watch ends at the poll numbered endAtPoll.
     void serialSnapshots(std::vector<std::vector<SerialDevice>> snapshots, std::size_t endAtPoll) {
         struct Ports final : SerialPortSource {
-            std::vector<SerialDevice> availablePorts() override {
-                ++polls;
-                auto snapshot = snapshots.empty()
-                                    ? std::vector<SerialDevice>{}
-                                    : snapshots[std::min(polls, snapshots.size()) - 1];
-                if (polls == endAtPoll) {
-                    (*stop)->request();
-                }
-                return snapshot;
-            }
-            std::vector<std::vector<SerialDevice>> snapshots;
-            std::size_t endAtPoll;
-            cli::StopSignal** stop; // the platform's, set once the watch begins
-            std::size_t polls = 0;
+            std::vector<SerialDevice> availablePorts() override { return poll(); }
+            std::function<std::vector<SerialDevice>()> poll;
         };
         cli::watchPlatform().serialPorts = [this, snapshots, endAtPoll] {
             auto ports = std::make_unique<Ports>();
-            ports->snapshots = snapshots;
-            ports->endAtPoll = endAtPoll;
-            ports->stop = &stop_;
+            ports->poll = [this, snapshots, endAtPoll, polls = std::size_t{0}]() mutable {
+                if (++polls == endAtPoll) {
+                    stop_->request(); // set once the watch began
+                }
+                return snapshots.empty() ? std::vector<SerialDevice>{}
+                                         : snapshots[std::min(polls, snapshots.size()) - 1];
+            };
             return ports;
         };
     }

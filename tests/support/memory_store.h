@@ -11,24 +11,16 @@
 
 namespace velmora::test {
 
-struct MemoryRecordsSetup {
-    std::optional<std::string> addError = std::nullopt;
-    std::optional<std::string> updateError = std::nullopt;
-    std::optional<std::string> removeError = std::nullopt;
-};
-
+// Its records; told to refuse, they refuse every change with that error.
 class MemoryRecords final : public RecordStore {
 public:
     explicit MemoryRecords(bool& changed) : changed_(changed) {}
 
     std::optional<std::string> add(StoneRecord& record) override {
-        if (fail.addError) {
-            return fail.addError;
-        }
-        record.id = ++lastId_;
-        kept.insert(kept.begin(), record);
-        changed_ = true;
-        return std::nullopt;
+        return change([&] {
+            record.id = ++lastId_;
+            kept.insert(kept.begin(), record);
+        });
     }
     std::optional<std::string> list(std::vector<StoneRecord>& records) const override {
         records = kept;
@@ -36,37 +28,37 @@ public:
     }
     std::optional<std::string> find(RecordId id,
                                     std::optional<StoneRecord>& record) const override {
-        const auto found = std::find_if(kept.begin(), kept.end(),
-                                        [id](const StoneRecord& r) { return r.id == id; });
+        const auto found = std::ranges::find(kept, id, &StoneRecord::id);
         record = found == kept.end() ? std::nullopt : std::optional(*found);
         return std::nullopt;
     }
     std::optional<std::string> update(const StoneRecord& record) override {
-        if (fail.updateError) {
-            return fail.updateError;
-        }
-        for (StoneRecord& r : kept) {
-            if (r.id == record.id) {
-                r.notes = record.notes;
-                r.conclusion = record.conclusion;
-                changed_ = true;
+        return change([&] {
+            for (StoneRecord& r : kept) {
+                if (r.id == record.id) {
+                    r.notes = record.notes;
+                    r.conclusion = record.conclusion;
+                }
             }
-        }
-        return std::nullopt;
+        });
     }
     std::optional<std::string> remove(RecordId id) override {
-        if (fail.removeError) {
-            return fail.removeError;
-        }
-        std::erase_if(kept, [id](const StoneRecord& r) { return r.id == id; });
-        changed_ = true;
-        return std::nullopt;
+        return change(
+            [&] { std::erase_if(kept, [id](const StoneRecord& r) { return r.id == id; }); });
     }
 
-    MemoryRecordsSetup fail;
+    std::optional<std::string> refusal;
     std::vector<StoneRecord> kept; // newest first
 
 private:
+    template <class Change> std::optional<std::string> change(Change apply) {
+        if (!refusal) {
+            apply();
+            changed_ = true;
+        }
+        return refusal;
+    }
+
     bool& changed_;
     RecordId lastId_ = 0;
 };

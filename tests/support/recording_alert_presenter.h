@@ -4,6 +4,7 @@
 
 #include "ui/alert_presenter.h"
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <string>
@@ -37,10 +38,8 @@ public:
     // The informative texts, or another of the alerts' texts, in the order shown.
     std::vector<std::string>
     texts(std::string RecordedAlert::*text = &RecordedAlert::informative) const {
-        std::vector<std::string> shown;
-        for (const auto& alert : alerts) {
-            shown.push_back(alert.*text);
-        }
+        std::vector<std::string> shown(alerts.size());
+        std::ranges::transform(alerts, shown.begin(), text);
         return shown;
     }
 

@@ -38,6 +38,16 @@ struct WindowSetup {
     std::optional<HIDDeviceConnector::ManagerFactory> instrumentManagers = std::nullopt;
 };
 
+// What a column of the table shows, top to bottom; for a cell of several lines, its first.
+inline std::vector<std::string> columnTexts(TableView& table, int column) {
+    std::vector<std::string> texts;
+    for (int row = 0; row < table.numberOfRows(); ++row) {
+        const std::string text = cellText(table, column, row).value_or("?");
+        texts.push_back(text.substr(0, text.find('\n')));
+    }
+    return texts;
+}
+
 // The screens and the instrument where the window's tests do not look: they open and connect
 // nothing.
 struct NoScreensNoInstrument final : ScreenPresenter, InstrumentLink {

@@ -112,7 +112,7 @@ TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTab) {
     b.click(b.window.btn_RIReading);
     EXPECT_TRUE(b.window.performKeyEquivalent(" "));
     b.runQueued();
-    EXPECT_EQ(b.window.lbl_seriesValues.text(), "1.624");
+    EXPECT_EQ(b.series().front(), "1.624");
 }
 
 TEST(CapturePanel, AutomaticCaptureTakesEverySteadyReadingWhileTicked) {
@@ -133,10 +133,9 @@ TEST(CapturePanel, IdentifyFromSeriesRanksTheLowAndHighAndNewStoneStartsTheNextS
     Bench b;
     b.capturePositions({"1.631", "1.624", "1.644"});
     b.click(b.window.btn_identifySeries);
-    EXPECT_EQ(b.window.txt_leftRIReading.text(), "1.624");
-    EXPECT_EQ(b.window.txt_leftRIHigh.text(), "1.644");
-    const std::string best = cellText(b.window.tbl_bestMatches, 1, 0).value_or("");
-    EXPECT_EQ(best.substr(0, best.find('\n')), "Tourmaline");
+    EXPECT_EQ(b.window.txt_leftRIReading.text() + "-" + b.window.txt_leftRIHigh.text(),
+              "1.624-1.644");
+    EXPECT_EQ(columnTexts(b.window.tbl_bestMatches, 1).at(0), "Tourmaline");
 
     b.click(b.window.btn_newStone);
     EXPECT_EQ(b.series(), (Texts{"", "-", "-", "-", "no reading captured"}));
@@ -161,8 +160,7 @@ TEST(CapturePanel, TheLampAndTheChartFollowTheReadingsTheBandAndTheCaptures) {
     shows("Steady", systemColors::systemGreen, true);
     b.click(b.window.btn_capture);
     b.click(b.window.btn_newStone); // the marks stay: they are history
-    ASSERT_EQ(chart.captures().size(), 1u);
-    EXPECT_EQ(chart.captures().back().value, 1.624);
+    EXPECT_EQ(chart.captures().size() == 1 ? chart.captures().back().value : 0, 1.624);
     b.read("0.000");
     shows("No stone", systemColors::systemGray, false);
 }

@@ -15,34 +15,34 @@ using namespace std::chrono_literals;
 
 const MatchedHIDDevice instrument{.productId = 63999, .vendorId = 1240, .name = "Velmora"};
 
-void expectDisconnected(const MainWindow& w, const std::string& placeholder) {
-    EXPECT_EQ(w.view_deviceStatus.backgroundColor(), systemColors::red);
-    EXPECT_EQ(w.lbl_deviceStatus.text(), "Disconnected");
-    EXPECT_EQ(w.usb_device_reading.text(), placeholder);
-    EXPECT_TRUE(w.btn_connected.isEnabled());
-    EXPECT_FALSE(w.btn_disconnected.isEnabled());
+// The lamp, the status, the reading, and whether Connect and Disconnect are enabled.
+auto panel(const MainWindow& w) {
+    return std::tuple(*w.view_deviceStatus.backgroundColor(), w.lbl_deviceStatus.text(),
+                      w.usb_device_reading.text(), w.btn_connected.isEnabled(),
+                      w.btn_disconnected.isEnabled());
+}
+auto disconnected(const char* placeholder) {
+    return std::tuple(systemColors::red, std::string("Disconnected"), std::string(placeholder),
+                      true, false);
 }
 
 TEST(DevicePanel, FollowsTheSessionFlagAtOnceAndThePanelAfterTheEvent) {
-    expectDisconnected(WindowHarness({.decimalSeparator = ","}).window, "1,000");
+    EXPECT_EQ(panel(WindowHarness({.decimalSeparator = ","}).window), disconnected("1,000"));
     WindowHarness h;
     MainWindow& w = h.window;
-    expectDisconnected(w, "1.000");
+    EXPECT_EQ(panel(w), disconnected("1.000"));
     w.usb_device_reading.setText("1.540");
     h.notificationCenter.post(HIDDeviceConnected{instrument});
     EXPECT_TRUE(h.state().isUSBStatus);
     EXPECT_EQ(w.lbl_deviceStatus.text(), "Disconnected");
     h.runQueued();
-    EXPECT_EQ(w.view_deviceStatus.backgroundColor(), systemColors::systemGreen);
-    EXPECT_EQ(w.lbl_deviceStatus.text(), "Connected");
-    EXPECT_EQ(w.usb_device_reading.text(), "1.540");
-    EXPECT_FALSE(w.btn_connected.isEnabled());
-    EXPECT_TRUE(w.btn_disconnected.isEnabled());
+    EXPECT_EQ(panel(w), std::tuple(systemColors::systemGreen, std::string("Connected"),
+                                   std::string("1.540"), false, true));
 
     h.notificationCenter.post(HIDDeviceDisconnected{});
     EXPECT_FALSE(h.state().isUSBStatus);
     h.runQueued();
-    expectDisconnected(w, "1.000");
+    EXPECT_EQ(panel(w), disconnected("1.000"));
 }
 
 // The HID monitor posts under the session's names with payloads of its own: a device record and
@@ -58,7 +58,7 @@ TEST(DevicePanel, TheMonitorsConnectedChangesNothingButItsRemovalDisconnects) {
     h.notificationCenter.post(HIDDeviceDisconnected{"/dev/hidraw0"});
     EXPECT_FALSE(h.state().isUSBStatus);
     h.runQueued();
-    expectDisconnected(h.window, "1.000");
+    EXPECT_EQ(panel(h.window), disconnected("1.000"));
 }
 
 TEST(DevicePanel, ReadingsShowInTheUsersNotationWhateverTheState) {
@@ -83,9 +83,7 @@ TEST(DevicePanel, TheResetAfterConnectComesAfterTheConnectedState) {
     EXPECT_TRUE(h.state().isUSBStatus); // before anything queued has run
     EXPECT_TRUE(order.empty());
     h.runQueued();
-    ASSERT_FALSE(order.empty());
-    EXPECT_EQ(order.front(), "Connected");
-    EXPECT_EQ(order.back(), "reset");
+    EXPECT_EQ(order.size() > 1 ? order.front() + ", " + order.back() : "", "Connected, reset");
 }
 
 } // namespace

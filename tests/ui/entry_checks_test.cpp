@@ -46,10 +46,9 @@ TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
         h.type(h.window.*c.entry, c.typed);
         EXPECT_EQ(h.alerts(), c.alerts) << c.typed;
         EXPECT_EQ((h.window.*c.entry).text(), c.left) << c.typed;
-        for (const auto& alert : h.alertPresenter.alerts) {
-            EXPECT_EQ(alert.message, "");
-            EXPECT_EQ(alert.style, AlertStyle::Warning);
-            EXPECT_EQ(alert.buttons, Texts{"OK"});
+        for (const auto& a : h.alertPresenter.alerts) {
+            EXPECT_EQ(std::tie(a.message, a.style, a.buttons),
+                      std::tuple("", AlertStyle::Warning, Texts{"OK"}));
         }
     }
 }

@@ -18,7 +18,7 @@ using Texts = std::vector<std::string>;
 // The view over a window of its own, a store in memory and scripted dialogs; each saved record
 // is measured as holding the label and two candidates.
 struct RecordsBench {
-    RecordsBench() {
+    explicit RecordsBench(MemoryStoreSetup setup = {}) : store(std::move(setup)) {
         store.loadPersistentStores();
         view.setServices({[this] { return store.records(); }, &dialogs, &report});
         view.reload();
@@ -27,14 +27,7 @@ struct RecordsBench {
         dialogs.labels.push_back(label);
         view.saveRecord();
     }
-    Texts column(int column) {
-        Texts texts;
-        for (int row = 0; row < window.tbl_records.numberOfRows(); ++row) {
-            texts.push_back(cellText(window.tbl_records, column, row).value_or("?"));
-        }
-        return texts;
-    }
-    Texts labels() { return column(0); }
+    Texts labels() { return columnTexts(window.tbl_records, 0); }
     void filter(const std::string& text) {
         window.txt_recordsFilter.setText(text);
         view.controlTextDidChange(&window.txt_recordsFilter);
@@ -70,8 +63,7 @@ TEST(RecordsView, ListsNewestFirstAndFiltersByLabelOrConclusionWithoutCaseOrAcce
     b.window.txt_recordNotes.setText("silk");
     b.view.updateRecord();
     const StoneRecord& kept = b.store.recordsKept.kept[2];
-    EXPECT_EQ(kept.conclusion, "Iolite");
-    EXPECT_EQ(kept.notes, "silk");
+    EXPECT_EQ(kept.conclusion + ", " + kept.notes, "Iolite, silk");
     EXPECT_NE(b.window.txt_recordDetail.text().find("Conclusion: Iolite"), std::string::npos);
 
     const struct {
@@ -111,7 +103,7 @@ TEST(RecordsView, AStoreThatRefusesAChangeSaysSoAndLosesNothing) {
     RecordsBench b;
     b.save("Lot 7");
     b.view.chooseRecord(0);
-    b.store.recordsKept.fail = {.addError = full, .updateError = full, .removeError = full};
+    b.store.recordsKept.refusal = full;
 
     b.save("Lot 8");
     b.window.txt_recordNotes.setText("typed, not yet kept");
@@ -135,13 +127,10 @@ TEST(RecordsView, WithoutAStoreOrALabelNothingIsSaved) {
                  {true, std::nullopt, {}},
                  {true, "", {"The record needs a label"}}};
     for (const auto& c : cases) {
-        RecordsBench b;
-        MemoryStore store({.opens = c.opens});
-        store.loadPersistentStores();
-        b.view.setServices({[&store] { return store.records(); }, &b.dialogs, &b.report});
+        RecordsBench b({.opens = c.opens});
         b.dialogs.labels.push_back(c.label);
         b.view.saveRecord();
-        EXPECT_FALSE(store.hasChanges()) << c.opens;
+        EXPECT_FALSE(b.store.hasChanges()) << c.opens;
         EXPECT_EQ(b.alertMessages(), c.alerts) << c.opens;
     }
 }
@@ -156,8 +145,7 @@ TEST(RecordsView, ExportsTheListedRecordsAndReportsTheChosenOneOrAllListed) {
     b.view.exportCsv();
     std::ifstream in(dir.path() / "out.csv");
     const std::string csv{std::istreambuf_iterator<char>(in), {}};
-    EXPECT_NE(csv.find("Lot 7"), std::string::npos);
-    EXPECT_EQ(csv.find("Lot 8"), std::string::npos);
+    EXPECT_TRUE(csv.find("Lot 7") != csv.npos && csv.find("Lot 8") == csv.npos) << csv;
 
     b.dialogs.files = {dir.path() / "all.pdf", dir.path() / "one.pdf"};
     b.filter(""); // lets go of Lot 8, chosen as it was saved: the report holds all listed
@@ -183,25 +171,21 @@ TEST(RecordsView, ExportsTheListedRecordsAndReportsTheChosenOneOrAllListed) {
 TEST(RecordsView, SavesTheMeasurementAsTheWindowHoldsIt) {
     WindowHarness h({.rows = std::vector<std::string>{stoneRow("1", "Rock crystal", "1.544-1.553"),
                                                       stoneRow("50", "Ruby", "1.762-1.770")}});
-    MemoryStore store;
-    store.loadPersistentStores();
-    ScriptedRecordsDialogs dialogs;
-    RecordingReportOutput report;
-    h.controller.setRecordsServices({[&store] { return store.records(); }, &dialogs, &report});
+    RecordsBench b;
+    h.controller.setRecordsServices({[&b] { return b.store.records(); }, &b.dialogs, &b.report});
     h.click(h.window.bvtn_dictionary);
     h.click(h.window.check_RI);
     h.type(h.window.txt_leftRIReading, "1.762");
     h.type(h.window.txt_leftRIHigh, "1.770");
-    dialogs.labels.push_back("Client 31");
+    b.dialogs.labels.push_back("Client 31");
     h.click(h.window.btn_saveRecord);
 
-    ASSERT_EQ(store.recordsKept.kept.size(), 1u);
-    const StoneRecord& r = store.recordsKept.kept[0];
+    ASSERT_EQ(b.store.recordsKept.kept.size(), 1u);
+    const StoneRecord& r = b.store.recordsKept.kept[0];
     EXPECT_EQ(r.label, "Client 31");
     EXPECT_EQ(r.ri.values, (std::vector<double>{1.762, 1.77}));
     ASSERT_FALSE(r.candidates.empty());
-    EXPECT_EQ(r.candidates[0].name, "Ruby");
-    EXPECT_EQ(r.candidates[0].number, "50");
+    EXPECT_EQ(r.candidates[0].number + " " + r.candidates[0].name, "50 Ruby");
 }
 
 } // namespace

@@ -94,10 +94,7 @@ TEST(WatchCommand, PrintsTheDevicesPresentFirstThenEachChangeAsItComes) {
     for (const auto& c : cases) {
         FakeWatchPlatform platform;
         c.devices(platform);
-        const auto r = runCli(c.args);
-        EXPECT_EQ(r.status, 0) << c.args[1];
-        EXPECT_EQ(r.out, c.out) << c.args[1];
-        EXPECT_EQ(r.err, c.err) << c.args[1];
+        EXPECT_EQ(runCli(c.args), (CliResult{0, c.out, c.err})) << c.args[1];
     }
 }
 

@@ -13,9 +13,7 @@ using CaptureWindow = ShellTest;
 TEST_F(CaptureWindow, SpaceCapturesUnlessAnEntryHasTheKeyboardAndIdentifyShowsBestMatches) {
     open();
     click("btn_connected");
-    for (int i = 0; i < 15; ++i) {
-        runLoop.advance(HIDDeviceConnector::updateInterval);
-    }
+    runLoop.advance(15 * HIDDeviceConnector::updateInterval);
     settle();
     EXPECT_EQ(text("lbl_steadyState"), "Steady");
     widget("btn_RIReading")->setFocus(Qt::TabFocusReason);

@@ -11,27 +11,21 @@ namespace velmora::test {
 namespace {
 
 using ::testing::ElementsAre;
-class Clicks : public ShellTest {
-protected:
-    // The dictionary tab with S.G. ticked and its empty entry holding the keyboard.
-    void focusEmptySgEntry() {
-        click("bvtn_dictionary");
-        click("check_sg");
-        type("txt_leftSG", "");
-    }
-};
+using Clicks = ShellTest;
 
 // The click does what it does without the check of the entry it takes the focus from.
 TEST_F(Clicks, FromAnEmptyFocusedEntryASearchRunsABoxTogglesAndATabChangeChecksNothing) {
     open();
-    focusEmptySgEntry();
+    click("bvtn_dictionary");
+    click("check_sg");
+    type("txt_leftSG", "");
     ASSERT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
     click("btn_search");
     EXPECT_THAT(alerts.texts(), ElementsAre("Please enter S.G. value!"));
     EXPECT_EQ(QApplication::focusWidget(), widget("txt_leftSG"));
     click("check_hardness");
-    EXPECT_TRUE(widget<QCheckBox>("check_hardness")->isChecked());
-    EXPECT_TRUE(widget("txt_leftHardness")->isEnabled());
+    EXPECT_TRUE(widget<QCheckBox>("check_hardness")->isChecked() &&
+                widget("txt_leftHardness")->isEnabled());
     click("check_hardness");
     EXPECT_FALSE(widget<QCheckBox>("check_hardness")->isChecked());
     click("btn_RIReading"); // empties and locks the entry that holds the keyboard

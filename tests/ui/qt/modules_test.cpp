@@ -7,7 +7,6 @@
 
 #include <fstream>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace velmora::test {
 namespace {

@@ -10,8 +10,7 @@
 namespace velmora::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 using Quit = ShellTest;
 
 const MemoryStoreSetup failingSave{.hasChanges = true, .saveError = "cannot save Velmora.sqlite"};

@@ -11,8 +11,7 @@
 namespace velmora::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 using Screens = ShellTest;
 
 TEST_F(Screens, TheContactScreenOpensTheWebsiteAndAMailToSupportAlone) {

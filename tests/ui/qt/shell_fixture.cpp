@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
@@ -132,17 +131,11 @@ QStringList ShellTest::listedStones() {
 
 QString ShellTest::text(const char* name) {
     QWidget* shown = widget(name);
-    if (auto* label = qobject_cast<QLabel*>(shown)) {
-        return label->text();
-    }
-    if (auto* entry = qobject_cast<QLineEdit*>(shown)) {
-        return entry->text();
-    }
-    if (auto* popUp = qobject_cast<QComboBox*>(shown)) {
-        return popUp->currentText();
-    }
-    ADD_FAILURE() << name << " shows no text";
-    return {};
+    const QVariant text =
+        shown ? shown->property(qobject_cast<QComboBox*>(shown) ? "currentText" : "text")
+              : QVariant();
+    EXPECT_TRUE(text.isValid()) << name << " shows no text";
+    return text.toString();
 }
 
 } // namespace velmora::test

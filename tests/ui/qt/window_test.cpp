@@ -10,8 +10,7 @@
 namespace velmora::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::ElementsAre, ::testing::IsEmpty;
 using Window = ShellTest;
 
 TEST_F(Window, LeavingAnEntryOrPressingReturnEndsItsEditingWithTheCheck) {
