@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -105,19 +106,38 @@ ButtonColours coloursOf(ButtonKind kind, QStyle::State state) {
     return {fill, enabled ? line : disabledLine, text};
 }
 
-// A rounded box with a one-pixel border inside rect.
+// A box, rounded or not, with its border inside rect. The border is filled as a ring, not
+// stroked: stroking a rounded outline was most of the time the window took to draw its boxes.
 void drawBox(QPainter& painter, const QRect& rect, const QColor& fill, const QColor& border,
              int radius, int borderWidth = 1) {
+    const int width = border.isValid() ? borderWidth : 0;
+    const QRect inner = rect.adjusted(width, width, -width, -width);
+    if (radius <= 0) {
+        if (width > 0) {
+            QRegion ring = QRegion(rect).subtracted(inner);
+            for (const QRect& part : ring) {
+                painter.fillRect(part, border);
+            }
+        }
+        if (fill.isValid()) {
+            painter.fillRect(inner, fill);
+        }
+        return;
+    }
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, radius > 0);
-    const qreal inset = border.isValid() ? borderWidth / 2.0 : 0.0;
-    const QRectF box = QRectF(rect).adjusted(inset, inset, -inset, -inset);
-    painter.setPen(border.isValid() ? QPen(border, borderWidth) : QPen(Qt::NoPen));
-    painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
-    if (radius > 0) {
-        painter.drawRoundedRect(box, radius, radius);
-    } else {
-        painter.drawRect(box);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const qreal innerRadius = std::max(radius - width, 0);
+    if (width > 0) {
+        QPainterPath ring;
+        ring.addRoundedRect(QRectF(rect), radius, radius);
+        ring.addRoundedRect(QRectF(inner), innerRadius, innerRadius);
+        painter.setBrush(border);
+        painter.drawPath(ring);
+    }
+    if (fill.isValid()) {
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(inner), innerRadius, innerRadius);
     }
     painter.restore();
 }
