@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-RecordedSeries typedSeries(const MeasurementEntries& entries, const DecimalSeparators& separators) {
+RecordedSeries typedSeries(const RankingForm& entries, const DecimalSeparators& separators) {
     RotationSeries series;
     for (const std::string* text : {&entries.riText, &entries.riHighText}) {
         if (const auto value = readEntryNumber(*text, separators)) {
@@ -35,7 +35,7 @@ RecordedCandidate candidateOf(const BestMatchRow& row) {
 } // namespace
 
 StoneRecord recordFromMeasurement(std::string label, std::chrono::sys_seconds examined,
-                                  const RotationSeries& captured, const MeasurementEntries& entries,
+                                  const RotationSeries& captured, const RankingForm& entries,
                                   const DecimalSeparators& separators,
                                   std::span<const BestMatchRow> candidates) {
     StoneRecord record;
@@ -43,10 +43,10 @@ StoneRecord recordFromMeasurement(std::string label, std::chrono::sys_seconds ex
     record.examined = examined;
     if (!captured.empty()) {
         record.ri = recordedSeries(captured);
-    } else if (entries.ri) {
+    } else if (entries.isRIState) {
         record.ri = typedSeries(entries, separators);
     }
-    if (entries.sg) {
+    if (entries.isSGState) {
         record.sg = readEntryNumber(entries.sgText, separators);
         const auto air = readEntryNumber(entries.weightAirText, separators);
         const auto water = readEntryNumber(entries.weightWaterText, separators);
@@ -54,11 +54,11 @@ StoneRecord recordFromMeasurement(std::string label, std::chrono::sys_seconds ex
             record.weighing = Weighing{*air, *water};
         }
     }
-    if (entries.hardness) {
+    if (entries.isHardnessState) {
         record.hardness = readEntryNumber(entries.hardnessText, separators);
     }
-    if (entries.color) {
-        record.color = entries.colorName;
+    if (entries.isColorState) {
+        record.color = entries.selectedColor;
     }
     // A species whose varieties fit unequally is listed on a line per fit; the record names it
     // once, at the best of them, which comes first.

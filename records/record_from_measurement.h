@@ -14,26 +14,11 @@
 
 namespace velmora {
 
-// The search form's entries as typed; a criterion counts only while its box is ticked, as it
-// does for the ranking.
-struct MeasurementEntries {
-    bool ri = false;
-    bool sg = false;
-    bool hardness = false;
-    bool color = false;
-    std::string riText = {};
-    std::string riHighText = {};
-    std::string sgText = {};
-    std::string weightAirText = {};
-    std::string weightWaterText = {};
-    std::string hardnessText = {};
-    std::string colorName = {};
-};
-
 // A series captured from the instrument is the R.I.; without one, the readings typed into the
-// R.I. entries are.
+// R.I. entries are. A criterion of the form counts only while its box is ticked, as it does for
+// the ranking.
 StoneRecord recordFromMeasurement(std::string label, std::chrono::sys_seconds examined,
-                                  const RotationSeries& captured, const MeasurementEntries& entries,
+                                  const RotationSeries& captured, const RankingForm& entries,
                                   const DecimalSeparators& separators,
                                   std::span<const BestMatchRow> candidates);
 

@@ -1,8 +1,9 @@
 #pragma once
 
 // The ranked identification's inputs as the window's form holds them: the ticked criteria, the
-// entries' texts and the over-the-limit switch. Reading them never stops at an alert: an entry
-// that cannot be used gives a short note, so the strict search keeps its own warnings.
+// entries' texts, the weighing and the over-the-limit switch. Reading them never stops at an
+// alert: an entry that cannot be used gives a short note, so the strict search keeps its own
+// warnings. A saved record takes what the form holds from the same.
 
 #include "search/number_entry.h"
 
@@ -27,6 +28,8 @@ struct RankingForm {
     std::string hardnessText{};
     std::string nameText{};
     std::string selectedColor{};
+    std::string weightAirText{}; // the weighing the S.G. came from, when the stone was weighed
+    std::string weightWaterText{};
 };
 
 class RankingTable;

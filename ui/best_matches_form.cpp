@@ -41,7 +41,9 @@ RankingForm ViewController::rankingForm() const {
             .sgText = txt_leftSG.text(),
             .hardnessText = txt_leftHardness.text(),
             .nameText = txt_left_name.text(),
-            .selectedColor = selectedColor};
+            .selectedColor = selectedColor,
+            .weightAirText = txt_weightAir.text(),
+            .weightWaterText = txt_weightWater.text()};
 }
 
 } // namespace velmora

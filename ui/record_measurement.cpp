@@ -6,19 +6,8 @@
 namespace velmora {
 
 StoneRecord ViewController::recordOfMeasurement(std::string label) const {
-    const MeasurementEntries entries{.ri = isRIState,
-                                     .sg = isSGState,
-                                     .hardness = isHardnessState,
-                                     .color = isColorState,
-                                     .riText = txt_leftRIReading.text(),
-                                     .riHighText = txt_leftRIHigh.text(),
-                                     .sgText = txt_leftSG.text(),
-                                     .weightAirText = txt_weightAir.text(),
-                                     .weightWaterText = txt_weightWater.text(),
-                                     .hardnessText = txt_leftHardness.text(),
-                                     .colorName = selectedColor};
     const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    return recordFromMeasurement(std::move(label), now, capture_.series(), entries,
+    return recordFromMeasurement(std::move(label), now, capture_.series(), rankingForm(),
                                  decimalSeparators(), bestMatches_.rows());
 }
 

@@ -30,33 +30,34 @@ TEST(RecordFromMeasurement, TakesTheCapturedSeriesBeforeTheTypedReadings) {
         {"typed, R.I. not ticked", RotationSeries(), false, {}},
     };
     for (const auto& c : cases) {
-        MeasurementEntries entries{.ri = c.riTicked, .riText = "1,760", .riHighText = "1,768"};
+        RankingForm entries{.isRIState = c.riTicked, .riText = "1,760", .riHighText = "1,768"};
         const StoneRecord r =
             recordFromMeasurement("lot 7", noon, c.captured, entries, {",", ","}, {});
         EXPECT_EQ(r.ri.values, c.values) << c.name;
     }
-    const StoneRecord typed =
-        recordFromMeasurement("x", noon, RotationSeries(),
-                              {.ri = true, .riText = "1.768", .riHighText = "1.760"}, {}, {});
+    const StoneRecord typed = recordFromMeasurement(
+        "x", noon, RotationSeries(), {.isRIState = true, .riText = "1.768", .riHighText = "1.760"},
+        {}, {});
     EXPECT_EQ(typed.ri.low, 1.760);
     EXPECT_EQ(typed.ri.high, 1.768);
     EXPECT_NE(typed.ri.verdict.find("0.008"), std::string::npos) << typed.ri.verdict;
 }
 
 TEST(RecordFromMeasurement, KeepsOnlyTheTickedReadableEntries) {
-    MeasurementEntries all{.sg = true, .hardness = true, .sgText = "2.65", .hardnessText = "7"};
+    RankingForm all{
+        .isSGState = true, .isHardnessState = true, .sgText = "2.65", .hardnessText = "7"};
     all.weightAirText = "0.530";
     all.weightWaterText = "0.330";
-    MeasurementEntries unticked = all;
-    unticked.sg = unticked.hardness = false;
-    MeasurementEntries unreadable = all; // weights without the S.G. they gave are left out too
+    RankingForm unticked = all;
+    unticked.isSGState = unticked.isHardnessState = false;
+    RankingForm unreadable = all; // weights without the S.G. they gave are left out too
     unreadable.sgText = "2..6";
     unreadable.hardnessText = "";
-    MeasurementEntries typedSg = all;
+    RankingForm typedSg = all;
     typedSg.weightWaterText = "";
     const struct {
         const char* name;
-        MeasurementEntries entries;
+        RankingForm entries;
         std::optional<double> sg;
         bool weighing;
         std::optional<double> hardness;
