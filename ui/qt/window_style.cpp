@@ -252,11 +252,9 @@ void WindowStyle::dress(QWidget& root) {
         if (auto* label = qobject_cast<QLabel*>(widget)) {
             dressLabel(*label);
         } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-            // The text sits 9 pixels in from the sides, as in a roomy entry.
+            // The text sits 9 pixels in from the sides, as in a roomy entry. A read-only value is
+            // made bold by its binding, which knows when an entry stops being one.
             edit->setTextMargins(6, 2, 6, 2);
-            if (edit->isReadOnly()) {
-                setFont(*edit, 0, true);
-            }
         } else if (auto* text = qobject_cast<QPlainTextEdit*>(widget)) {
             // The frame draws the box, rounded; the page inside is see-through.
             QPalette palette = text->palette();
