@@ -56,16 +56,16 @@ int BestMatches::numberOfRowsInTableView(TableView&) {
 
 std::shared_ptr<View> BestMatches::tableViewViewFor(TableView& table, const TableColumn* column,
                                                     int row) {
-    if (!column || row < 0 || static_cast<std::size_t>(row) >= rows_.size()) {
+    const BestMatchRow* shown = itemAt(rows_, row);
+    if (!column || !shown) {
         return nullptr;
     }
-    const BestMatchRow& shown = rows_[static_cast<std::size_t>(row)];
     const std::string& id = column->identifier;
-    auto cell = table.makeTextCell(cellIdentifier, id == fitColumn         ? shown.fit
-                                                   : id == candidateColumn ? shown.candidate
-                                                                           : shown.deviations);
+    auto cell = table.makeTextCell(cellIdentifier, id == fitColumn         ? shown->fit
+                                                   : id == candidateColumn ? shown->candidate
+                                                                           : shown->deviations);
     if (cell && cell->textField() && id == fitColumn) {
-        cell->textField()->setTextColor(shown.withinTolerance ? fitsInk : nearInk);
+        cell->textField()->setTextColor(shown->withinTolerance ? fitsInk : nearInk);
     }
     return cell;
 }
@@ -75,10 +75,11 @@ double BestMatches::tableViewHeightOfRow(TableView&, int) {
 }
 
 bool BestMatches::tableViewShouldSelectRow(TableView&, int row) {
-    if (row < 0 || static_cast<std::size_t>(row) >= rows_.size()) {
+    const BestMatchRow* chosen = itemAt(rows_, row);
+    if (!chosen) {
         return false;
     }
-    showStone_(*rows_[static_cast<std::size_t>(row)].stone);
+    showStone_(*chosen->stone);
     return true;
 }
 

@@ -233,14 +233,14 @@ int RecordsView::numberOfRowsInTableView(TableView&) {
 
 std::shared_ptr<View> RecordsView::tableViewViewFor(TableView& table, const TableColumn* column,
                                                     int row) {
-    if (!column || row < 0 || static_cast<std::size_t>(row) >= shown_.size()) {
+    const StoneRecord* r = itemAt(shown_, row);
+    if (!column || !r) {
         return nullptr;
     }
-    const StoneRecord& r = shown_[static_cast<std::size_t>(row)];
     const std::string& id = column->identifier;
-    return table.makeTextCell(cellIdentifier, id == labelColumn  ? r.label
-                                              : id == dateColumn ? reportDateText(r.examined)
-                                                                 : r.conclusion);
+    return table.makeTextCell(cellIdentifier, id == labelColumn  ? r->label
+                                              : id == dateColumn ? reportDateText(r->examined)
+                                                                 : r->conclusion);
 }
 
 double RecordsView::tableViewHeightOfRow(TableView&, int) {
@@ -248,10 +248,11 @@ double RecordsView::tableViewHeightOfRow(TableView&, int) {
 }
 
 bool RecordsView::tableViewShouldSelectRow(TableView&, int row) {
-    if (row < 0 || static_cast<std::size_t>(row) >= shown_.size()) {
+    const StoneRecord* r = itemAt(shown_, row);
+    if (!r) {
         return false;
     }
-    chosenId_ = shown_[static_cast<std::size_t>(row)].id;
+    chosenId_ = r->id;
     showChosen();
     return true;
 }

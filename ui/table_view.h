@@ -22,6 +22,13 @@ struct TableColumn {
     std::string identifier;
 };
 
+// What a data source's row shows, or nothing for a row it does not have.
+template <class Item> const Item* itemAt(const std::vector<Item>& items, int row) {
+    return row >= 0 && static_cast<std::size_t>(row) < items.size()
+               ? &items[static_cast<std::size_t>(row)]
+               : nullptr;
+}
+
 // A cell's view: a view with, usually, one text field.
 class TableCellView : public View {
 public:
