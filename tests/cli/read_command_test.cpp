@@ -3,7 +3,6 @@
 
 #include <csignal>
 #include <gmock/gmock.h>
-#include <regex>
 
 namespace velmora::test {
 namespace {
@@ -11,13 +10,6 @@ namespace {
 using ::testing::HasSubstr, ::testing::StartsWith;
 
 // These run the real event loop: a reading every 0.1 s, so a few readings each.
-
-TEST(ReadCommand, PrintsTheSimulatedSessionsReadingsAsTheWindowShowsThem) {
-    const auto r = runCli({"read", "--simulate", "--count", "3", "--decimal-separator", ","});
-    EXPECT_EQ(r.status, 0) << r.err;
-    EXPECT_TRUE(std::regex_match(r.out, std::regex("(1,[0-9]{3}\n){3}"))) << r.out;
-    EXPECT_EQ(r.err, "");
-}
 
 TEST(ReadCommand, ReplaysAFileFromTheTopAgainAndRefusesOneItCannotReplay) {
     TempDir dir;

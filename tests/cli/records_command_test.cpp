@@ -1,7 +1,5 @@
-#include "app/cli/store_path.h"
 #include "tests/cli/cli_runner.h"
 
-#include <cstdlib>
 #include <gmock/gmock.h>
 
 namespace velmora::test {
@@ -66,31 +64,6 @@ TEST(RecordsCommand, RefusesWhatTheWindowWouldAndKeepsNothing) {
         EXPECT_THAT(r.err, HasSubstr(c.says)) << testing::PrintToString(c.args);
         EXPECT_EQ(store.run({"list"}).out, "");
     }
-}
-
-TEST(RecordsCommand, TheDefaultStoreIsWhereTheWindowKeepsIt) {
-    using Variable = std::optional<std::string>;
-    const auto get = [](const char* name) {
-        const char* value = std::getenv(name);
-        return value ? Variable(value) : std::nullopt;
-    };
-    const auto set = [](const char* name, const Variable& value) {
-        value ? setenv(name, value->c_str(), 1) : unsetenv(name);
-    };
-    const Variable home = get("HOME");
-    const Variable dataHome = get("XDG_DATA_HOME");
-    const std::pair<Variable, const char*> cases[] = {
-        {"/data", "/data/Velmora/Velmora.sqlite"},
-        {"", "/home/g/.local/share/Velmora/Velmora.sqlite"},
-        {std::nullopt, "/home/g/.local/share/Velmora/Velmora.sqlite"},
-    };
-    for (const auto& [xdgDataHome, path] : cases) {
-        set("XDG_DATA_HOME", xdgDataHome);
-        set("HOME", "/home/g");
-        EXPECT_EQ(cli::applicationStorePath(), path);
-    }
-    set("HOME", home);
-    set("XDG_DATA_HOME", dataHome);
 }
 
 } // namespace

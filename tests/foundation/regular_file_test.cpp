@@ -28,7 +28,6 @@ TEST(ReadRegularFile, RefusesWhatIsNoRegularFileOrTooLargeBeforeReadingIt) {
         {dir.path(), "it is a folder"},
         {fifo, "it is not a file but a device, a pipe or a socket"},
         {linkToPipe, "it is not a file but a device, a pipe or a socket"},
-        {"/dev/zero", "it is not a file but a device, a pipe or a socket"},
         {sparse, "it is larger than 1 MiB, the most a table may hold"},
         {justOver, "it is larger than 1 MiB, the most a table may hold"},
         {dir.path() / "missing", "No such file or directory"},
@@ -55,7 +54,6 @@ TEST(Printable, WritesOutControlCharactersAndBrokenBytes) {
         {"\x1B]0;owned\x07\x1B[2J", "\\x1B]0;owned\\x07\\x1B[2J"},
         {std::string("a\0b\tc\r\nd\x7F", 9), "a\\x00b\\x09c\\x0D\\x0Ad\\x7F"},
         {"\u009B31m", "U+009B31m"}, // the C1 form of ESC [
-        {"\xC2\x85", "U+0085"},
         {"\xFF\xC3(", "\\xFF\\xC3("},
     };
     for (const auto& [raw, shown] : cases) {
@@ -65,7 +63,6 @@ TEST(Printable, WritesOutControlCharactersAndBrokenBytes) {
 
 TEST(Printable, AnExcerptIsShortAndSaysWhenItIsCut) {
     EXPECT_EQ(text::excerpt("1.544"), "1.544");
-    EXPECT_EQ(text::excerpt(std::string(40, 'x')), std::string(40, 'x'));
     EXPECT_EQ(text::excerpt(std::string(50 << 20, 'x')), std::string(40, 'x') + "...");
     EXPECT_EQ(text::excerpt("\x1B[2J\x1B[2J", 3), "\\x1B[2...");
     EXPECT_EQ(text::excerpt("\xC3\xA9\xC3\xA9\xC3\xA9", 2), "\xC3\xA9\xC3\xA9...");

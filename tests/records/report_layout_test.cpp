@@ -54,30 +54,5 @@ TEST(ReportLayout, TheTextNamesEveryPartOnce) {
     }
 }
 
-TEST(SeriesChart, PlacesThePointsInTheUnitSquareOnAnAxisOfAtLeastTenThousandths) {
-    const struct {
-        const char* name;
-        std::vector<double> values;
-        std::vector<std::pair<double, double>> points;
-        double axisLow;
-        double axisHigh;
-    } cases[] = {
-        {"none", {}, {}, 0, 0},
-        {"flat", {1.718, 1.718}, {{0, 0.5}, {1, 0.5}}, 1.713, 1.723},
-        {"narrow", {1.544, 1.553}, {{0, 0.05}, {1, 0.95}}, 1.5435, 1.5535},
-        {"wide", {1.658, 1.486, 1.572}, {{0, 1}, {0.5, 0}, {1, 0.5}}, 1.486, 1.658},
-    };
-    for (const auto& c : cases) {
-        const SeriesChart chart = seriesChart(c.values, ".");
-        ASSERT_EQ(chart.points.size(), c.points.size()) << c.name;
-        EXPECT_NEAR(chart.axisLow, c.axisLow, 1e-9) << c.name;
-        EXPECT_NEAR(chart.axisHigh, c.axisHigh, 1e-9) << c.name;
-        for (std::size_t i = 0; i < c.points.size(); ++i) {
-            EXPECT_NEAR(chart.points[i].first, c.points[i].first, 1e-9) << c.name << i;
-            EXPECT_NEAR(chart.points[i].second, c.points[i].second, 1e-9) << c.name << i;
-        }
-    }
-}
-
 } // namespace
 } // namespace velmora::test

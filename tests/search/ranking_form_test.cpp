@@ -50,11 +50,9 @@ TEST(RankingForm, ReadsTheTickedEntriesAndNotesWhatItCannotUse) {
         {riForm("0.9"), "A refractive index is 1 or more."},
         {{.isSGState = true, .sgText = "0"}, "A specific gravity is above zero."},
         {{.isHardnessState = true, .hardnessText = "11"}, "Mohs hardness runs from 1 to 10."},
-        {{.isHardnessState = true, .hardnessText = "0.5"}, "Mohs hardness runs from 1 to 10."},
         // Over the limit there is no reading to check.
         {{.isRIState = true, .overTheLimit = true, .riText = "x"}, ""},
         {{.isNameState = true, .nameText = "sapph"}, ""},
-        {{.isColorState = true, .selectedColor = "Red"}, ""},
     };
     for (const auto& c : cases) {
         const RankingFormReading reading = readRankingForm(c.form, point);
@@ -86,7 +84,6 @@ TEST(Weighing, GivesTheSgWithTheDecimalsTheWeightsAllowOrSaysWhatIsWrong) {
         const char* note;
     } cases[] = {
         {"", "", std::nullopt, ""},
-        {"4.00", "", std::nullopt, ""}, // the second weight is still to come
         {"4.000", "3.000", "4.00", ""}, // each weight +-0.0005: the S.G. +-0.0035
         {"2.00", "1.50", "4", ""},      // a small loss in water: not even one decimal holds
         {"1.3x", "1", std::nullopt, "Weight in air \"1.3x\" is not a number."},

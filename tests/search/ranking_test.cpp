@@ -1,5 +1,4 @@
 #include "search/deviation_text.h"
-#include "search/range_cell.h"
 #include "search/ranking.h"
 
 #include <gtest/gtest.h>
@@ -54,26 +53,6 @@ struct OrderCase {
 void expectOrders(const StoneList& stones, std::initializer_list<OrderCase> cases) {
     for (const auto& c : cases) {
         EXPECT_EQ(order(rankStones(stones, c.in)), c.order);
-    }
-}
-
-TEST(RangeCell, ASingleNumberIsAPointAndAnUnreadableOrReversedCellNoSpan) {
-    const struct {
-        const char* cell;
-        std::optional<std::pair<double, double>> span;
-    } cases[] = {
-        {"1.544 - 1.553", {{1.544, 1.553}}},
-        {"2.65", {{2.65, 2.65}}},
-        {"none", std::nullopt},
-        {"1.55-1.54", std::nullopt},
-        {"1.76-1.77-1.78", {{1.76, 1.77}}},
-    };
-    for (const auto& c : cases) {
-        const auto span = spanOf(c.cell);
-        ASSERT_EQ(span.has_value(), c.span.has_value()) << c.cell;
-        if (span) {
-            EXPECT_EQ(std::make_pair(span->low, span->high), *c.span) << c.cell;
-        }
     }
 }
 
@@ -171,15 +150,6 @@ TEST(Ranking, AnAggregateShowsNoTwoSharpEdgesShortOfABlink) {
                   // Readings further apart than a blink are the carbonate's own.
                   {{.ri = m(1.655, 0.0005), .riHigh = m(1.850, 0.0005), .sg = m(3.90, 0.005)},
                    "Azurmalachite 100, Sapphire 0"}});
-}
-
-TEST(Ranking, TheNameFiltersWithoutCaseOrAccents) {
-    const auto stones = table({{"Paraíba tourmaline", "1.614-1.650"},
-                               {"Rubellite", "1.614-1.650"},
-                               {"Parai\u0301ba glass", "1.5-1.6"}});
-    const std::string both = "Parai\u0301ba glass 100, Paraíba tourmaline 100";
-    expectOrders(stones,
-                 {{{.name = "PARAÍBA"}, both}, {{.name = "raib"}, both}, {{.name = "beryl"}, ""}});
 }
 
 TEST(Ranking, DeviationsReadAtAGlanceAndNearMatchesSayWhatFits) {
