@@ -103,18 +103,6 @@ TEST(CapturePanel, ASeriesGivesLowHighBirefringenceAndTheVerdict) {
     }
 }
 
-// Not while an entry is typed in either: the widgets' own test presses the keys.
-TEST(CapturePanel, SpaceCapturesOnlyInTheReadingTab) {
-    Bench b;
-    b.click(b.window.bvtn_dictionary);
-    b.hold("1.624");
-    EXPECT_FALSE(b.window.performKeyEquivalent(" "));
-    b.click(b.window.btn_RIReading);
-    EXPECT_TRUE(b.window.performKeyEquivalent(" "));
-    b.runQueued();
-    EXPECT_EQ(b.series().front(), "1.624");
-}
-
 TEST(CapturePanel, AutomaticCaptureTakesEverySteadyReadingWhileTicked) {
     Bench b;
     b.hold("1.624");

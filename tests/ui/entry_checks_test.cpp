@@ -38,7 +38,6 @@ TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
         {".", &MainWindow::txt_leftSG, "1,5", {"Please use '.' as decimals!"}, "5"},
         {",", &MainWindow::txt_leftHardness, "1.5", {"Please use ',' as decimals!"}, "5"},
         {".", &MainWindow::txt_leftSG, "2x", {numberOnly}, ""},
-        {".", &MainWindow::txt_leftSG, "1.2.3", {}, "1.2.3"}, // the search's to refuse
         {".", &MainWindow::txt_left_name, "Star ruby, 1.5", {}, "Star ruby, 1.5"},
     };
     for (const auto& c : cases) {
@@ -51,18 +50,6 @@ TEST(EntryChecks, EachTypedCharacterIsCheckedAndAForeignOneEmptiesTheEntry) {
                       std::tuple("", AlertStyle::Warning, Texts{"OK"}));
         }
     }
-}
-
-TEST(EntryChecks, TextSetByTheProgramIsCheckedOnlyWhenEditingEnds) {
-    Entries h;
-    h.window.txt_leftRIReading.setText("x,y");
-    h.type(h.window.txt_leftSG, "2");
-    h.window.txt_leftSG.setText("2,6");
-    EXPECT_TRUE(h.alerts().empty());
-    h.leave();
-    EXPECT_EQ(h.alerts(), Texts{"Please insert number only!"});
-    EXPECT_EQ(h.window.txt_leftSG.text(), "");
-    EXPECT_EQ(h.window.firstResponder(), nullptr);
 }
 
 } // namespace

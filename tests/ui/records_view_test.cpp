@@ -71,7 +71,6 @@ TEST(RecordsView, ListsNewestFirstAndFiltersByLabelOrConclusionWithoutCaseOrAcce
         Texts labels;
     } cases[] = {
         {"", {"lot 12", "Müller ring", "Lot 7"}},
-        {"LOT", {"lot 12", "Lot 7"}},
         {"muller", {"Müller ring"}},
         {"iolite", {"Lot 7"}},
     };

@@ -1,6 +1,5 @@
 // The modules the application loads on first use, found from the executable as it finds them.
 
-#include "app/qt/module_loader.h"
 #include "app/qt/module_report_output.h"
 #include "app/qt/sqlite_store_loader.h"
 #include "tests/support/temp_dir.h"
@@ -40,22 +39,6 @@ TEST(Modules, TheReportFromItsModuleIsAPdfOfAPageARecord) {
 
     const auto unwritable = dir.path() / "no such folder" / "report.pdf";
     EXPECT_THAT(report.writePdf(records, unwritable).value_or(""), HasSubstr("cannot write"));
-}
-
-TEST(Modules, AMissingModuleOrFunctionIsNamedInTheError) {
-    const struct {
-        const char* module;
-        const char* function;
-        const char* named;
-    } cases[] = {
-        {"velmora_no_such_module", "velmora_makeSqliteStore", "velmora_no_such_module"},
-        {"velmora_sqlite_store", "velmora_noSuchFunction", "velmora_noSuchFunction"},
-    };
-    for (const auto& c : cases) {
-        QString error;
-        EXPECT_EQ(qt::resolveModuleFunction(c.module, c.function, error), nullptr) << c.module;
-        EXPECT_THAT(error.toStdString(), HasSubstr(c.named));
-    }
 }
 
 } // namespace
