@@ -48,25 +48,21 @@ void ViewController::showStoneDetail(const Stones& stone) {
     txt_sg.setText(inUserNotation(stone.SgRange, decimalSeparator));
 }
 
-// A search that ends early leaves the table showing rows of the list before it, so the table
-// may ask about rows the list no longer has: those have no stone, no cell and no detail.
-bool ViewController::isListed(int row) const {
-    return row >= 0 && static_cast<std::size_t>(row) < arr_stones.size();
-}
-
 int ViewController::numberOfRowsInTableView(TableView&) {
     return static_cast<int>(arr_stones.size());
 }
 
 std::shared_ptr<View> ViewController::tableViewViewFor(TableView& table, const TableColumn* column,
                                                        int row) {
-    if (!isListed(row)) {
+    // A search that ends early leaves the table showing rows of the list before it, so the table
+    // may ask about rows the list no longer has: those have no stone, no cell and no detail.
+    const Stones* stone = itemAt(arr_stones, row);
+    if (!stone) {
         return nullptr;
     }
-    const Stones& stone = arr_stones[static_cast<std::size_t>(row)];
     const bool idColumn = column && column->identifier == MainWindow::idColumn;
     return table.makeTextCell(idColumn ? MainWindow::idCell : MainWindow::titleCell,
-                              idColumn ? stoneNumberText(stone.StoneID, row) : stone.StoneName);
+                              idColumn ? stoneNumberText(stone->StoneID, row) : stone->StoneName);
 }
 
 double ViewController::tableViewHeightOfRow(TableView&, int) {
@@ -74,10 +70,11 @@ double ViewController::tableViewHeightOfRow(TableView&, int) {
 }
 
 bool ViewController::tableViewShouldSelectRow(TableView&, int row) {
-    if (!isListed(row)) {
+    const Stones* listed = itemAt(arr_stones, row);
+    if (!listed) {
         return false;
     }
-    const Stones& stone = arr_stones[static_cast<std::size_t>(row)];
+    const Stones& stone = *listed;
     showStoneDetail(stone);
     // The pop-up holds each name once, so after a repeated name its item numbers no longer
     // follow the rows: the item is found by the title of the first stone of that name, which

@@ -23,7 +23,7 @@ struct TableColumn {
 };
 
 // What a data source's row shows, or nothing for a row it does not have.
-template <class Item> const Item* itemAt(const std::vector<Item>& items, int row) {
+template <class Items> auto itemAt(const Items& items, int row) -> decltype(&items[0]) {
     return row >= 0 && static_cast<std::size_t>(row) < items.size()
                ? &items[static_cast<std::size_t>(row)]
                : nullptr;

@@ -155,7 +155,6 @@ private:
     void enterTab(int tag);
     void emptyCriteria(CheckBoxes checkBoxes);
     void clearSwatch();
-    bool isListed(int row) const;
 
     void observeInstrument();
     void writeModeAndQueueReset();
