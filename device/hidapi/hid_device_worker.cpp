@@ -5,10 +5,10 @@
 namespace velmora::hidapi {
 
 HidDeviceWorker::HidDeviceWorker(std::unique_ptr<HidHandle> handle, RunLoop& runLoop,
-                                 Handlers handlers, std::chrono::milliseconds readTimeout)
+                                 Handlers handlers)
     : handle_(std::move(handle)), runLoop_(runLoop),
       handlers_(std::make_shared<const Handlers>(std::move(handlers))), weakHandlers_(handlers_),
-      readTimeout_(readTimeout), thread_([this] { run(); }) {}
+      thread_([this] { run(); }) {}
 
 HidDeviceWorker::~HidDeviceWorker() {
     {
@@ -43,7 +43,7 @@ void HidDeviceWorker::run() {
             handle_->write(report);
         }
 
-        const int length = handle_->read(buffer, readTimeout_);
+        const int length = handle_->read(buffer, readTimeout);
         if (length < 0) {
             {
                 const std::lock_guard lock(mutex_);

@@ -29,10 +29,9 @@ public:
     };
 
     // Long enough not to spin, short enough that stopping never holds up the window.
-    static constexpr std::chrono::milliseconds defaultReadTimeout{20};
+    static constexpr std::chrono::milliseconds readTimeout{20};
 
-    HidDeviceWorker(std::unique_ptr<HidHandle> handle, RunLoop& runLoop, Handlers handlers,
-                    std::chrono::milliseconds readTimeout = defaultReadTimeout);
+    HidDeviceWorker(std::unique_ptr<HidHandle> handle, RunLoop& runLoop, Handlers handlers);
     // Tells the thread to stop, waits for it, then closes the device: never during a read. What
     // it posted and the loop has not run yet is dropped.
     ~HidDeviceWorker();
@@ -50,7 +49,6 @@ private:
     // Posted work reaches the handlers only while the worker lives.
     std::shared_ptr<const Handlers> handlers_;
     std::weak_ptr<const Handlers> weakHandlers_;
-    const std::chrono::milliseconds readTimeout_;
 
     std::mutex mutex_;
     std::deque<Bytes> writes_;

@@ -3,8 +3,7 @@
 namespace velmora::hidapi {
 
 HidapiDevice::HidapiDevice(std::unique_ptr<HidHandle> handle, std::optional<std::string> product,
-                           RunLoop& runLoop, std::function<void()> removed,
-                           std::chrono::milliseconds readTimeout)
+                           RunLoop& runLoop, std::function<void()> removed)
     : product_(std::move(product)) {
     HidDeviceWorker::Handlers handlers{// A copy: the callback may drop this device.
                                        [this](std::span<const std::uint8_t> report) {
@@ -13,8 +12,7 @@ HidapiDevice::HidapiDevice(std::unique_ptr<HidHandle> handle, std::optional<std:
                                            }
                                        },
                                        std::move(removed)};
-    worker_ = std::make_unique<HidDeviceWorker>(std::move(handle), runLoop, std::move(handlers),
-                                                readTimeout);
+    worker_ = std::make_unique<HidDeviceWorker>(std::move(handle), runLoop, std::move(handlers));
 }
 
 void HidapiDevice::registerInputReportCallback(InputReportCallback callback) {

@@ -17,8 +17,7 @@ class HidapiDevice final : public HidDevice {
 public:
     // removed runs on the loop's thread when the device goes away.
     HidapiDevice(std::unique_ptr<HidHandle> handle, std::optional<std::string> product,
-                 RunLoop& runLoop, std::function<void()> removed,
-                 std::chrono::milliseconds readTimeout = HidDeviceWorker::defaultReadTimeout);
+                 RunLoop& runLoop, std::function<void()> removed);
 
     void registerInputReportCallback(InputReportCallback callback) override;
     std::optional<std::string> productProperty() const override { return product_; }

@@ -22,12 +22,8 @@ class AppDelegateTest : public ::testing::Test {
 protected:
     AppDelegate& delegate(const MemoryStoreSetup& setup = {}) {
         delegate_.emplace(
-            connector,
-            [this, setup] {
-                ++containersMade;
-                return std::make_unique<MemoryStore>(setup);
-            },
-            alerts, strings, log);
+            connector, [setup] { return std::make_unique<MemoryStore>(setup); }, alerts, strings,
+            log);
         return *delegate_;
     }
     MemoryStore& store() { return dynamic_cast<MemoryStore&>(delegate_->persistentContainer()); }
@@ -39,18 +35,8 @@ protected:
     HIDDeviceConnector connector{bus.managerFactory(), runLoop, center, log};
     RecordingAlertPresenter alerts;
     MarkedStrings strings;
-    int containersMade = 0;
     std::optional<AppDelegate> delegate_;
 };
-
-TEST_F(AppDelegateTest, TheContainerIsMadeOnFirstUseOnlyAndAFreshQuitGoesAheadSilently) {
-    AppDelegate& d = delegate();
-    EXPECT_EQ(containersMade, 0);
-    EXPECT_EQ(d.applicationShouldTerminate(), TerminateReply::Now);
-    EXPECT_EQ(&d.persistentContainer(), &d.persistentContainer());
-    EXPECT_EQ(std::pair(containersMade, store().loads), std::pair(1, 1));
-    EXPECT_THAT(alerts.alerts, IsEmpty());
-}
 
 TEST_F(AppDelegateTest, AStoreThatFailsToLoadIsToldOnceAndTheApplicationCarriesOn) {
     const struct {

@@ -63,8 +63,7 @@ TEST_F(SteadinessTest, TurningTheStoneGivesANewReadingOnlyWhenItMovedBeyondTheBa
         int turnedTo;
         std::vector<int> expected;
     };
-    for (const auto& c : {Case{1549, {1544, 1549}}, Case{1546, {1544, 1546}}, Case{1545, {1544}},
-                          Case{1539, {1544, 1539}}}) {
+    for (const auto& c : {Case{1546, {1544, 1546}}, Case{1545, {1544}}}) {
         Steadiness s;
         watch(s);
         readings.clear();
@@ -72,20 +71,6 @@ TEST_F(SteadinessTest, TurningTheStoneGivesANewReadingOnlyWhenItMovedBeyondTheBa
         stream.play(s, settleOn(1544) + Thousandths{1551, 1537, 1547} + hold(c.turnedTo, 20));
         EXPECT_EQ(values(), c.expected) << c.turnedTo;
     }
-}
-
-TEST_F(SteadinessTest, AWaverThatComesBackSettlesAgainWithoutANewReading) {
-    stream.play(steadiness, settleOn(1544) + Thousandths{1550, 1538} + hold(1544, 20));
-    EXPECT_THAT(values(), ElementsAre(1544));
-    EXPECT_THAT(states,
-                ElementsAre(State::settling, State::steady, State::settling, State::steady));
-}
-
-TEST_F(SteadinessTest, AReadingThatCreepsAwayGivesANewOneOnceBeyondTheBand) {
-    // Each second on its own is steady; the warming liquid moves the edge a thousandth a second.
-    stream.play(steadiness, settleOn(1544) + hold(1545, 10) + hold(1546, 10) + hold(1547, 10));
-    EXPECT_THAT(values(), ElementsAre(1544, 1546));
-    EXPECT_THAT(states, ElementsAre(State::settling, State::steady));
 }
 
 TEST_F(SteadinessTest, ALiftEndsTheStoneAndTheSameStonePutBackIsReadAgain) {
@@ -99,12 +84,6 @@ TEST_F(SteadinessTest, ALiftEndsTheStoneAndTheSameStonePutBackIsReadAgain) {
     // Below the lowest gem, no edge: as good as no stone.
     stream.play(steadiness, Thousandths{1299});
     EXPECT_EQ(steadiness.state(), State::noStone);
-}
-
-TEST_F(SteadinessTest, AReadingOlderThanTheLastIsIgnored) {
-    stream.play(steadiness, settleOn(1544));
-    steadiness.add(stream.now - 1s, 0);
-    EXPECT_EQ(steadiness.state(), State::steady);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
 // The USB side of the instrument session as a test scripts it: whether the instrument is plugged
-// in and what it calls itself; every report the host sends it, byte by byte; and the instrument's
-// input reports, attach and removal, delivered to the newest manager while it is scheduled, as
-// the HID layer delivers them on the run loop.
+// in; every report the host sends it, byte by byte; and the instrument's input reports and
+// removal, delivered to the newest manager while it is scheduled, as the HID layer delivers them
+// on the run loop.
 
 #include "device/hid_device_connector.h"
 
@@ -34,7 +34,6 @@ public:
 
     // What the next copyDevices() finds.
     bool instrumentAttached = true;
-    std::optional<std::string> productName = "Velmora Refractometer";
     // The instrument's side: called with every report the host sends, from a task that the send
     // queues on the manager's run loop, so it may answer, or be unplugged, as a device would.
     std::function<void(const SentReport& report)> answer;
@@ -64,13 +63,7 @@ public:
             }
         }
     }
-    // The instrument is plugged in / pulled out.
-    void attach() {
-        instrumentAttached = true;
-        if (auto* manager = scheduledManager()) {
-            deliver(manager->matching);
-        }
-    }
+    // The instrument is pulled out.
     void unplug() {
         instrumentAttached = false;
         if (auto* manager = scheduledManager()) {
@@ -85,7 +78,9 @@ private:
         void registerInputReportCallback(InputReportCallback callback) override {
             input = std::move(callback);
         }
-        std::optional<std::string> productProperty() const override { return bus.productName; }
+        std::optional<std::string> productProperty() const override {
+            return "Velmora Refractometer";
+        }
         void setOutputReport(std::uint8_t reportId, std::span<const std::uint8_t> report) override {
             bus.sent_.push_back({reportId, Bytes(report.begin(), report.end())});
             if (bus.answer && bus.runLoop_) {
@@ -125,9 +120,7 @@ private:
             return bus.instrumentAttached ? std::vector<std::shared_ptr<HidDevice>>{device}
                                           : std::vector<std::shared_ptr<HidDevice>>{};
         }
-        void registerDeviceMatchingCallback(DeviceCallback callback) override {
-            matching = std::move(callback);
-        }
+        void registerDeviceMatchingCallback(DeviceCallback) override {}
         void registerDeviceRemovalCallback(DeviceCallback callback) override {
             removal = std::move(callback);
         }
@@ -135,7 +128,6 @@ private:
         FakeHidBus& bus;
         bool scheduled = false;
         std::shared_ptr<Device> device;
-        DeviceCallback matching;
         DeviceCallback removal;
     };
 

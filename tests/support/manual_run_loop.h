@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cassert>
 #include <chrono>
-#include <condition_variable>
 #include <deque>
 #include <map>
 #include <mutex>
@@ -23,14 +22,6 @@ public:
     void post(Task task) override {
         const std::lock_guard lock(mutex_);
         queue_.push_back(std::move(task));
-        ++posts_;
-        posted_.notify_all();
-    }
-    // Waits until that many tasks were posted in all, as a worker thread posts them; false after
-    // a few seconds without.
-    bool waitForPosts(std::size_t count) {
-        std::unique_lock lock(mutex_);
-        return posted_.wait_for(lock, std::chrono::seconds(5), [&] { return posts_ >= count; });
     }
     TimerId scheduleRepeating(std::chrono::milliseconds interval, Task task) override {
         assert(interval.count() > 0);
@@ -83,8 +74,6 @@ private:
     };
 
     std::mutex mutex_;
-    std::condition_variable posted_;
-    std::size_t posts_ = 0;
     std::deque<Task> queue_;
     std::map<TimerId, Timer> timers_;
     TimerId next_ = 1;
